@@ -1,0 +1,17 @@
+# Warnings and sanitizers of everything that is built in this tree. Applications of the library do
+# not inherit them.
+
+add_library(cwidget_compiler INTERFACE)
+target_compile_options(cwidget_compiler INTERFACE -Wall -Wextra)
+if(CWIDGET_WERROR)
+  target_compile_options(cwidget_compiler INTERFACE -Werror)
+endif()
+
+if(CWIDGET_SANITIZE)
+  set(flags -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_compile_options(cwidget_compiler INTERFACE ${flags})
+  target_link_options(cwidget_compiler INTERFACE ${flags})
+endif()
+
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)

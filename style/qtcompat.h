@@ -1,0 +1,96 @@
+#ifndef CWIDGET_STYLE_QTCOMPAT_H
+#define CWIDGET_STYLE_QTCOMPAT_H
+
+// What differs between Qt 4.8, 5 and 6, each difference as one small function or name. No other
+// file of the library asks for the version of Qt.
+
+#include <QColor>
+#include <QFontMetrics>
+#include <QMouseEvent>
+#include <QPoint>
+#include <QProcess>
+#include <QRegExp> // Qt 6 has it in its Core5Compat module
+#include <QString>
+#include <QStringList>
+
+namespace qtcompat
+{
+
+/// The advance of \a text in pixels.
+inline int textWidth(const QFontMetrics& metrics, const QString& text)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
+    return metrics.horizontalAdvance(text);
+#else
+    return metrics.width(text);
+#endif
+}
+
+/// The advance of the single character \a ch in pixels.
+inline int charWidth(const QFontMetrics& metrics, QChar ch)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
+    return metrics.horizontalAdvance(ch);
+#else
+    return metrics.width(ch);
+#endif
+}
+
+/// The colour called \a name, or written with a hash sign; invalid, and no warning, for other
+/// texts.
+inline QColor namedColor(const QString& name)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 4, 0)
+    return QColor::fromString(name);
+#else
+    return QColor::isValidColor(name) ? QColor(name) : QColor();
+#endif
+}
+
+/// The point of \a event in the coordinates of the widget that receives it.
+inline QPoint eventPos(const QMouseEvent* event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event->position().toPoint();
+#else
+    return event->pos();
+#endif
+}
+
+/// Starts \a commandLine, a program and its arguments separated by blanks, open for reading and
+/// writing.
+inline void startCommand(QProcess& process, const QString& commandLine)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    process.startCommand(commandLine);
+#else
+    QStringList words = commandLine.split(QLatin1Char(' '));
+    const QString program = words.takeFirst();
+    process.start(program, words);
+#endif
+}
+
+/// The signal of QComboBox that tells the new current text, for string-based connections. Qt 6
+/// dropped the overload for texts.
+inline const char* comboCurrentTextSignal()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return SIGNAL(currentTextChanged(QString));
+#else
+    return SIGNAL(currentIndexChanged(QString));
+#endif
+}
+
+/// The signal of QComboBox that tells the text the user chose, for string-based connections.
+inline const char* comboTextActivatedSignal()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return SIGNAL(textActivated(QString));
+#else
+    return SIGNAL(activated(QString));
+#endif
+}
+
+} // namespace qtcompat
+
+#endif

@@ -1,0 +1,112 @@
+#include "widgets/characterlayout_p.h"
+
+#include "style/qtcompat.h"
+
+#include <QPainter>
+
+namespace
+{
+
+const int firstLineTop = 5;
+
+bool isSeparator(QChar ch)
+{
+    return !ch.isLetterOrNumber();
+}
+
+} // namespace
+
+/// Draws with the pen and the font of \a painter. A line may be as wide as \a area reaches from its
+/// left to its right edge; the first one stands 5 pixels below its top.
+CharacterLayout::CharacterLayout(QPainter* painter, const QRect& area, int lineHeight)
+    : m_painter(painter),
+      m_metrics(painter->font()),
+      m_area(area),
+      m_lineHeight(lineHeight),
+      m_x(area.left()),
+      m_y(area.top() + firstLineTop),
+      m_lineWidth(0)
+{
+}
+
+/// Breaks before each character that does not fit.
+void CharacterLayout::drawCharWrapped(const QString& text)
+{
+    for (int i = 0; i < text.size(); ++i) {
+        while (!fits(qtcompat::charWidth(m_metrics, text.at(i)))) {
+            if (!startLine())
+                return;
+        }
+        draw(text.at(i));
+    }
+}
+
+/// Breaks before a separator whose next word does not fit.
+///
+/// Inside a word that is wider than a line, the layout starts a new line and goes on from the
+/// separator before the word, so that the beginning of the word is drawn again there; without such
+/// a separator it leaves out the character that did not fit. Both are wanted.
+void CharacterLayout::drawWordWrapped(const QString& text)
+{
+    int i = 0;
+    while (i < text.size()) {
+        const QChar ch = text.at(i);
+        if (isSeparator(ch) && !fits(widthOfWordAfter(text, i)) && !startLine())
+            return;
+        if (fits(qtcompat::charWidth(m_metrics, ch))) {
+            draw(ch);
+            ++i;
+            continue;
+        }
+        const int separator = lookBack(text, i);
+        if (!startLine())
+            return;
+        i = separator >= 0 ? separator : i + 1;
+    }
+}
+
+bool CharacterLayout::fits(int width) const
+{
+    return m_lineWidth + width <= m_area.right() - m_area.left();
+}
+
+/// Returns false when the new line would start below the area: nothing of it could be seen.
+bool CharacterLayout::startLine()
+{
+    m_x = m_area.left();
+    m_y += m_lineHeight;
+    m_lineWidth = 0;
+    return m_y <= m_area.bottom();
+}
+
+void CharacterLayout::draw(QChar ch)
+{
+    const int width = qtcompat::charWidth(m_metrics, ch);
+    m_painter->drawText(QRect(m_x, m_y, width, m_lineHeight), Qt::AlignCenter, QString(ch));
+    m_x += width;
+    m_lineWidth += width;
+}
+
+int CharacterLayout::widthOfWordAfter(const QString& text, int separator) const
+{
+    int end = separator + 1;
+    while (end < text.size() && !isSeparator(text.at(end)))
+        ++end;
+    return qtcompat::textWidth(m_metrics, text.mid(separator + 1, end - separator - 1));
+}
+
+/// The nearest separator at or before \a from, or -1 when the line, counted down by the width of
+/// the character at \a from, or the text begins before one is found.
+int CharacterLayout::lookBack(const QString& text, int from) const
+{
+    const int step = qtcompat::charWidth(m_metrics, text.at(from));
+    int lineWidth = m_lineWidth;
+    for (int i = from; i >= 0; --i) {
+        if (isSeparator(text.at(i)))
+            return i;
+        lineWidth -= step;
+        if (lineWidth < 1)
+            return -1;
+    }
+    return -1;
+}

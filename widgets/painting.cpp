@@ -1,0 +1,53 @@
+#include "widgets/painting_p.h"
+
+#include <QPainter>
+#include <QPen>
+#include <QWidget>
+
+namespace painting
+{
+
+/// Where a pen of \a borderWidth pixels runs so that all of it lies inside \a size.
+QRect borderRect(const QSize& size, int borderWidth)
+{
+    return QRect(borderWidth / 2, borderWidth / 2, size.width() - borderWidth,
+                 size.height() - borderWidth);
+}
+
+/// Fills \a rect, outline included, with \a color; an invalid colour draws nothing.
+void drawFill(QPainter* painter, const QRect& rect, const QColor& color)
+{
+    if (!color.isValid())
+        return;
+    painter->setPen(color);
+    painter->setBrush(QBrush(color, Qt::SolidPattern));
+    painter->drawRect(rect);
+}
+
+/// Draws a border with sharp corners along the inside of \a size; nothing for a width below 1.
+/// Without a valid \a borderColor the border has the \a backgroundColor, valid or not.
+void drawBorder(QPainter* painter, const QSize& size, int borderWidth, const QColor& borderColor,
+                const QColor& backgroundColor)
+{
+    if (borderWidth < 1)
+        return;
+    QPen pen(borderColor.isValid() ? borderColor : backgroundColor);
+    pen.setWidth(borderWidth);
+    pen.setJoinStyle(Qt::MiterJoin);
+    painter->setPen(pen);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(borderRect(size, borderWidth));
+}
+
+/// Draws a grey frame on the outermost pixels of \a widget.
+void drawThinFrame(QWidget* widget)
+{
+    QPainter painter(widget);
+    QPen pen(QColor(212, 212, 212));
+    pen.setWidth(1);
+    pen.setJoinStyle(Qt::MiterJoin);
+    painter.setPen(pen);
+    painter.drawRect(0, 0, widget->width() - 1, widget->height() - 1);
+}
+
+} // namespace painting

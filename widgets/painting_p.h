@@ -1,0 +1,23 @@
+#ifndef CWIDGET_WIDGETS_PAINTING_P_H
+#define CWIDGET_WIDGETS_PAINTING_P_H
+
+#include <QColor>
+#include <QRect>
+
+class QPainter;
+class QWidget;
+
+// What several widgets paint alike.
+namespace painting
+{
+
+QRect borderRect(const QSize& size, int borderWidth);
+
+void drawFill(QPainter* painter, const QRect& rect, const QColor& color);
+void drawBorder(QPainter* painter, const QSize& size, int borderWidth, const QColor& borderColor,
+                const QColor& backgroundColor);
+void drawThinFrame(QWidget* widget);
+
+} // namespace painting
+
+#endif

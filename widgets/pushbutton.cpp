@@ -1,0 +1,316 @@
+#include "widgets/pushbutton.h"
+
+#include "style/qtcompat.h"
+#include "style/stylewalk_p.h"
+#include "style/widgetstyle.h"
+#include "widgets/painting_p.h"
+
+#include <QIcon>
+#include <QPainter>
+#include <QPointer>
+
+namespace
+{
+
+const int buttonWidth = 120;
+const int buttonHeight = 40;
+const int defaultTextSize = 10;
+const int borderWidth = 2;
+const int iconMargin = 9; // on both sides of the icon together, left of a text
+const int textMargin = 5; // between icon and text
+
+// The pictures of each style, by the style's number.
+const struct StyleRow {
+    CWidgetStyle::ButtonStatus released;
+    CWidgetStyle::ButtonStatus pressed;
+} styles[] = {
+    // clang-format off
+    {CWidgetStyle::GrayReleased,   CWidgetStyle::GrayPressed},
+    {CWidgetStyle::GreenReleased,  CWidgetStyle::GreenPressed},
+    {CWidgetStyle::OrangeReleased, CWidgetStyle::OrangePressed},
+    {CWidgetStyle::RedReleased,    CWidgetStyle::RedPressed},
+    {CWidgetStyle::FixedReleased,  CWidgetStyle::FixedPressed},
+    // clang-format on
+};
+
+// The attributes of each state, by the state's number.
+const struct StateRow {
+    CPushButton::ExtraAttr pixmap;
+    CPushButton::ExtraAttr textColor;
+} states[] = {
+    // clang-format off
+    {CPushButton::PressedPixmap,  CPushButton::PressedTextColor},
+    {CPushButton::ReleasedPixmap, CPushButton::ReleasedTextColor},
+    {CPushButton::SelectedPixmap, CPushButton::SelectedTextColor},
+    // clang-format on
+};
+
+template <typename Row, size_t count>
+const Row* rowOf(const Row (&table)[count], int number)
+{
+    return number >= 0 && static_cast<size_t>(number) < count ? &table[number] : 0;
+}
+
+} // namespace
+
+/// A button of 120 x 40 pixels on a violet ground, without text and pictures, that takes no focus;
+/// its font is that of the style file's entry "CPushButton".
+CPushButton::CPushButton(QWidget* parent)
+    : QPushButton(parent),
+      m_selected(false),
+      m_textSize(defaultTextSize),
+      m_textColor(Qt::black),
+      m_backgroundColor(99, 94, 128, 255),
+      m_autoStyleEnabled(true)
+{
+    initialize();
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CPushButton"), 0));
+}
+
+CPushButton::~CPushButton()
+{
+}
+
+/// Sets the button up as a touch button: flat, without focus, 120 x 40 pixels. Returns true.
+bool CPushButton::initialize()
+{
+    setFlat(true);
+    setFocusPolicy(Qt::NoFocus);
+    setAutoFillBackground(true);
+    setFixedSize(buttonWidth, buttonHeight);
+    return true;
+}
+
+/// The text that the button shows, empty by default. QPushButton's own text is not used.
+QString CPushButton::getText() const
+{
+    return m_text;
+}
+
+/// Sets the text and repaints.
+void CPushButton::setText(const QString& text)
+{
+    m_text = text;
+    update();
+}
+
+/// Shows the text, or hides it when \a size is 0, and repaints. Any other value, 10 by default,
+/// only shows it: the size of the letters is that of the widget's font.
+void CPushButton::setTextSize(int size)
+{
+    m_textSize = size;
+    update();
+}
+
+/// The colour of the text, black by default.
+QColor CPushButton::getTextColor() const
+{
+    return m_textColor;
+}
+
+/// Sets the colour of the text and repaints. The next state that has a text colour replaces it.
+void CPushButton::setTextColor(const QColor& color)
+{
+    m_textColor = color;
+    update();
+}
+
+/// The colour of the border of 2 pixels; invalid, the default, when there is none.
+QColor CPushButton::getBorderColor() const
+{
+    return m_borderColor;
+}
+
+/// Sets the colour of the border and repaints.
+void CPushButton::setBorderColor(const QColor& color)
+{
+    m_borderColor = color;
+    update();
+}
+
+/// The colour of the ground; invalid when there is none.
+QColor CPushButton::getBackgroundColor() const
+{
+    return m_backgroundColor;
+}
+
+/// Sets the colour of the ground and repaints.
+void CPushButton::setBackgroundColor(const QColor& color)
+{
+    m_backgroundColor = color;
+    update();
+}
+
+/// The picture that fills the button; null by default.
+QPixmap CPushButton::getBackground() const
+{
+    return m_background;
+}
+
+/// Sets the picture, which is scaled to fill the button, and repaints. The next state that has a
+/// picture replaces it.
+void CPushButton::setBackground(const QPixmap& pixmap)
+{
+    m_background = pixmap;
+    update();
+}
+
+/// Sets what a state brings up from now on; the current look stays. Unknown attributes are ignored.
+void CPushButton::setExtraAttr(ExtraAttr attr, const QVariant& value)
+{
+    if (attr < PressedPixmap || attr > SelectedTextColor)
+        return;
+    m_extraAttrs.insert(attr, value);
+}
+
+/// Gives the button one of the ready-made looks with white text, from the pictures of normal size
+/// or from the big ones. An unknown style is the default one. Selecting the button does not change
+/// it.
+void CPushButton::setStyle(ButtonStyle style, bool normalSize)
+{
+    const StyleRow* row = rowOf(styles, style);
+    if (!row)
+        row = &styles[DefaultStyle];
+    const QPixmap released = CWidgetStyle::getButtonStatus(row->released, normalSize);
+    setBackground(released);
+    setExtraAttr(PressedPixmap, CWidgetStyle::getButtonStatus(row->pressed, normalSize));
+    setExtraAttr(ReleasedPixmap, released);
+    setTextColor(Qt::white);
+}
+
+/// What was last given to setSelected(); false by default. A click does not change it.
+bool CPushButton::isSelected() const
+{
+    return m_selected;
+}
+
+/// Selects the button or not and brings up the selected or the released look. A click afterwards
+/// leaves the released look, wanted so, although the button stays selected.
+void CPushButton::setSelected(bool selected)
+{
+    m_selected = selected;
+    updateStatus(selected ? Selected : Released);
+}
+
+/// Brings up the picture and the text colour of \a state, as far as it has them, and repaints. An
+/// unknown state has none.
+void CPushButton::updateStatus(ButtonState state)
+{
+    if (const StateRow* row = rowOf(states, state)) {
+        if (m_extraAttrs.contains(row->pixmap))
+            m_background = m_extraAttrs.value(row->pixmap).value<QPixmap>();
+        if (m_extraAttrs.contains(row->textColor))
+            m_textColor = qtcompat::namedColor(m_extraAttrs.value(row->textColor).toString());
+    }
+    update();
+}
+
+/// Whether setWidgetStyle() applies anything; true by default.
+bool CPushButton::isAutoStyleEnabled() const
+{
+    return m_autoStyleEnabled;
+}
+
+/// Sets whether setWidgetStyle() applies anything, and repaints.
+void CPushButton::setAutoStyleEnabled(bool enabled)
+{
+    m_autoStyleEnabled = enabled;
+    update();
+}
+
+/// Takes the font of the FieldAll entry of \a style. Colours and other entries are ignored.
+void CPushButton::setWidgetStyle(WidgetStyle style)
+{
+    stylewalk::setFont(this, m_autoStyleEnabled, style);
+}
+
+void CPushButton::mousePressEvent(QMouseEvent* event)
+{
+    const QPointer<CPushButton> self(this); // a slot of pressed() may delete the button
+    QAbstractButton::mousePressEvent(event);
+    if (self && isEnabled())
+        updateStatus(Pressed);
+}
+
+void CPushButton::mouseReleaseEvent(QMouseEvent* event)
+{
+    const QPointer<CPushButton> self(this); // a slot of clicked() may delete the button
+    QPushButton::mouseReleaseEvent(event);
+    if (self && isEnabled())
+        updateStatus(Released);
+}
+
+void CPushButton::paintEvent(QPaintEvent* event)
+{
+    QPushButton::paintEvent(event);
+    drawBackgroundColor();
+    drawBorder();
+    drawBackgroundPixmap();
+    const QPixmap icon = iconPixmap();
+    drawIcon(icon);
+    drawText(!icon.isNull());
+}
+
+QPixmap CPushButton::iconPixmap() const
+{
+    return icon().pixmap(iconSize(), isEnabled() ? QIcon::Normal : QIcon::Disabled,
+                         isChecked() ? QIcon::On : QIcon::Off);
+}
+
+/// The icon stands in the middle, or near the left edge when there is a text.
+QRect CPushButton::iconRect() const
+{
+    const QSize size = iconSize();
+    const int middle = m_text.isEmpty() ? width() - 1 : size.width() + iconMargin;
+    return QRect(QPoint(middle / 2 - size.width() / 2, (height() - 1) / 2 - size.height() / 2),
+                 size);
+}
+
+/// The text has the whole button, or what is right of the icon.
+QRect CPushButton::textRect(bool hasIcon) const
+{
+    const int left = hasIcon ? iconSize().width() + textMargin : 0;
+    return QRect(left, 0, width() - left, height());
+}
+
+void CPushButton::drawBackgroundColor()
+{
+    QPainter painter(this);
+    painting::drawFill(&painter, rect(), m_backgroundColor);
+}
+
+void CPushButton::drawBorder()
+{
+    if (!m_borderColor.isValid())
+        return;
+    QPainter painter(this);
+    painting::drawBorder(&painter, size(), borderWidth, m_borderColor, m_backgroundColor);
+}
+
+void CPushButton::drawBackgroundPixmap()
+{
+    if (m_background.isNull())
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawPixmap(rect(), m_background);
+}
+
+void CPushButton::drawIcon(const QPixmap& pixmap)
+{
+    if (pixmap.isNull())
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawPixmap(iconRect(), pixmap);
+}
+
+void CPushButton::drawText(bool hasIcon)
+{
+    if (m_text.isEmpty() || m_textSize == 0)
+        return;
+    QPainter painter(this);
+    painter.setFont(font());
+    painter.setPen(m_textColor);
+    painter.drawText(textRect(hasIcon), Qt::AlignCenter, m_text);
+}

@@ -1,0 +1,101 @@
+#ifndef CWIDGET_WIDGETS_PUSHBUTTON_H
+#define CWIDGET_WIDGETS_PUSHBUTTON_H
+
+#include "style/global.h"
+#include "style/style.h"
+
+#include <QColor>
+#include <QMap>
+#include <QPixmap>
+#include <QPushButton>
+#include <QVariant>
+
+/// The touch button: a ground of a colour, a border, a picture that fills it, an icon and a text.
+/// For each of its states it may have a picture and a text colour, which the state brings up.
+class CWIDGET_EXPORT CPushButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    enum ButtonState {
+        Pressed = 0,
+        Released = 1,
+        Selected = 2
+    };
+
+    /// What a state brings up: a QPixmap, or a text colour as a QColor or by its name.
+    enum ExtraAttr {
+        PressedPixmap = 1,
+        ReleasedPixmap = 2,
+        SelectedPixmap = 3,
+        PressedTextColor = 4,
+        ReleasedTextColor = 5,
+        SelectedTextColor = 6
+    };
+
+    enum ButtonStyle {
+        DefaultStyle = 0, ///< grey
+        GreenStyle = 1,
+        OrangeStyle = 2,
+        RedStyle = 3,
+        FixedStyle = 4 ///< grey, and pressing does not change it
+    };
+
+    explicit CPushButton(QWidget* parent = 0);
+    ~CPushButton() override;
+
+    bool initialize();
+
+    QString getText() const;
+    void setText(const QString& text);
+    void setTextSize(int size);
+    QColor getTextColor() const;
+    void setTextColor(const QColor& color);
+    QColor getBorderColor() const;
+    void setBorderColor(const QColor& color);
+    QColor getBackgroundColor() const;
+    void setBackgroundColor(const QColor& color);
+    QPixmap getBackground() const;
+    void setBackground(const QPixmap& pixmap);
+
+    void setExtraAttr(ExtraAttr attr, const QVariant& value);
+    void setStyle(ButtonStyle style, bool normalSize);
+    using QPushButton::setStyle;
+
+    bool isSelected() const;
+    void setSelected(bool selected);
+    void updateStatus(ButtonState state);
+
+    bool isAutoStyleEnabled() const;
+    void setAutoStyleEnabled(bool enabled);
+    void setWidgetStyle(WidgetStyle style);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QPixmap iconPixmap() const;
+    QRect iconRect() const;
+    QRect textRect(bool hasIcon) const;
+    void drawBackgroundColor();
+    void drawBorder();
+    void drawBackgroundPixmap();
+    void drawIcon(const QPixmap& pixmap);
+    void drawText(bool hasIcon);
+
+    bool m_selected;
+    int m_textSize;
+    QString m_text;
+    QColor m_textColor;
+    QColor m_borderColor;
+    QColor m_backgroundColor;
+    QPixmap m_background;
+    QMap<ExtraAttr, QVariant> m_extraAttrs;
+    bool m_autoStyleEnabled;
+
+    Q_DISABLE_COPY(CPushButton)
+};
+
+#endif
