@@ -1,0 +1,212 @@
+#include "panelsample.h"
+
+#include "palette.h"
+
+#include <QFont>
+#include <QImage>
+#include <QPainter>
+#include <QRect>
+#include <QString>
+
+#include <cstring>
+
+namespace
+{
+
+// px
+const QSize SampleSize(1196, 464);
+const QRect PanelBox(0, 0, 800, 464);
+const QRect KeypadBox(816, 0, 380, 464);
+const int TextSize = 13;
+
+const QRgb White = Palette::White;
+const QRgb Black = Palette::Black;
+
+enum Place { Middle, Left };
+
+// One cell of a picture with a text, or a text alone where the picture is empty. A width of 0
+// leaves the cell its own size.
+struct Part
+{
+    const char* picture;
+    int cell;
+    int x;
+    int y;
+    int width;
+    int height;
+    const char* text;
+    QRgb colour;
+    Place place;
+};
+
+const char Menu[] = "menuentry_top-140x50.png";
+const char Title[] = "UTIL_TB_BKGROUND.png";
+const char Gray[] = "RCTB_BUTTONGRAY_3states.png";
+const char Green[] = "RCTB_BUTTONGREEN_3states.png";
+const char Orange[] = "RCTB_BUTTONORANGE_3states.png";
+const char Red[] = "RCTB_BUTTONRED_3states.png";
+const char BigGray[] = "BIG_RCTB_BUTTONGRAY_3states.png";
+const char BigGreen[] = "BIG_RCTB_BUTTONGREEN_3states.png";
+const char BigOrange[] = "BIG_RCTB_BUTTONORANGE_3states.png";
+const char BigRed[] = "BIG_RCTB_BUTTONRED_3states.png";
+const char Group[] = "group-background_120X30.png";
+const char Lamp[] = "BB_LIGHT_4states.png";
+const char Check[] = "checkbox_3states.png";
+const char Tiles[] = "selection_final.png";
+const char PageArrow[] = "hspinbox_arrow_20.png";
+const char NumKey[] = "NUMKB_BUTTON.png";
+
+// clang-format off
+const Part Parts[] = {
+    { Title, 0, 0, 0, 800, 44, "", White, Middle },
+    { "", 0, 20, 0, 300, 44, "Pump station 3", White, Left },
+    { "MISC_PROGCLK_11states.png", 3, 630, 7, 0, 0, "", White, Middle },
+    { "wireless-75.png", 0, 680, 9, 0, 0, "", White, Middle },
+    { "object-locked.png", 0, 720, 13, 0, 0, "", White, Middle },
+    { "TB_CLOSE_3states.png", 0, 756, 0, 0, 0, "", White, Middle },
+    { Title, 0, 0, 44, 800, 50, "", White, Middle },
+    { Menu, 0, 0, 44, 0, 0, "Overview", White, Middle },
+    { Menu, 2, 140, 44, 0, 0, "Control", White, Middle },
+    { Menu, 0, 280, 44, 0, 0, "Trends", White, Middle },
+    { Menu, 1, 420, 44, 0, 0, "Alarms", White, Middle },
+    { Menu, 3, 560, 44, 0, 0, "Service", 0xffb4b7c4, Middle },
+
+    { Green, 0, 24, 118, 0, 0, "Start", White, Middle },
+    { Red, 0, 24, 168, 0, 0, "Stop", White, Middle },
+    { Orange, 0, 24, 218, 0, 0, "Hold", White, Middle },
+    { Gray, 0, 24, 268, 0, 0, "Details", White, Middle },
+    { Gray, 1, 24, 318, 0, 0, "Pressed", White, Middle },
+    { Gray, 2, 24, 368, 0, 0, "Fixed", White, Middle },
+    { BigGreen, 2, 164, 118, 0, 0, "Selected", White, Middle },
+    { BigRed, 2, 164, 168, 0, 0, "Selected", White, Middle },
+    { BigOrange, 2, 164, 218, 0, 0, "Selected", White, Middle },
+    { BigGray, 0, 164, 268, 0, 0, "Settings", White, Middle },
+    { BigGreen, 1, 164, 318, 0, 0, "Pressed", White, Middle },
+    { BigRed, 1, 164, 368, 0, 0, "Pressed", White, Middle },
+
+    { Group, 0, 312, 118, 200, 30, "Status", Black, Middle },
+    { Lamp, 1, 320, 160, 0, 0, "", White, Middle },
+    { "", 0, 352, 160, 150, 20, "Ready", Black, Left },
+    { Lamp, 2, 320, 188, 0, 0, "", White, Middle },
+    { "", 0, 352, 188, 150, 20, "Notice", Black, Left },
+    { Lamp, 3, 320, 216, 0, 0, "", White, Middle },
+    { "", 0, 352, 216, 150, 20, "Warning", Black, Left },
+    { Lamp, 4, 320, 244, 0, 0, "", White, Middle },
+    { "", 0, 352, 244, 150, 20, "Fault", Black, Left },
+    { Lamp, 5, 320, 272, 0, 0, "", White, Middle },
+    { "", 0, 352, 272, 150, 20, "Remote", Black, Left },
+    { Lamp, 0, 320, 300, 0, 0, "", White, Middle },
+    { "", 0, 352, 300, 150, 20, "Off", Black, Left },
+    { Check, 1, 322, 334, 0, 0, "", White, Middle },
+    { "", 0, 352, 332, 150, 20, "Run at night", Black, Left },
+    { Check, 0, 322, 360, 0, 0, "", White, Middle },
+    { "", 0, 352, 358, 150, 20, "Print protocol", Black, Left },
+    { Check, 2, 322, 386, 0, 0, "", White, Middle },
+    { "", 0, 352, 384, 150, 20, "All channels", Black, Left },
+
+    { Group, 0, 540, 118, 236, 30, "Applications and devices", Black, Middle },
+    { Tiles, 1, 540, 158, 0, 0, "", White, Middle },
+    { Tiles, 6, 643, 158, 0, 0, "", White, Middle },
+    { Tiles, 10, 540, 210, 0, 0, "", White, Middle },
+    { Tiles, 12, 643, 210, 0, 0, "", White, Middle },
+    { "computer-laptop.png", 0, 540, 268, 0, 0, "", White, Middle },
+    { "mobile-phone.png", 0, 586, 268, 0, 0, "", White, Middle },
+    { "bluetooth-device.png", 0, 632, 268, 0, 0, "", White, Middle },
+    { "fileopen.png", 0, 678, 268, 0, 0, "", White, Middle },
+    { "wireless-connected.png", 0, 724, 268, 0, 0, "", White, Middle },
+    { "back.png", 0, 541, 316, 0, 0, "", White, Middle },
+    { "Forward.png", 0, 587, 316, 0, 0, "", White, Middle },
+    { "Reload.png", 0, 633, 316, 0, 0, "", White, Middle },
+    { "Stop.png", 0, 679, 316, 0, 0, "", White, Middle },
+    { "backlight.png", 2, 540, 366, 0, 0, "", White, Middle },
+    { "spin_minus.png", 0, 600, 372, 0, 0, "", White, Middle },
+    { "spin_plus.png", 0, 636, 372, 0, 0, "", White, Middle },
+    { "zoom_in.png", 0, 684, 375, 0, 0, "", White, Middle },
+    { "zoom_out.png", 0, 717, 375, 0, 0, "", White, Middle },
+    { PageArrow, 1, 312, 434, 0, 0, "", White, Middle },
+    { "", 0, 338, 434, 124, 20, "Page 2 of 5", Black, Middle },
+    { PageArrow, 3, 462, 434, 0, 0, "", White, Middle },
+
+    { NumKey, 0, 874, 98, 80, 50, "1", White, Middle },
+    { NumKey, 0, 966, 98, 80, 50, "2", White, Middle },
+    { NumKey, 0, 1058, 98, 80, 50, "3", White, Middle },
+    { NumKey, 0, 874, 160, 80, 50, "4", White, Middle },
+    { NumKey, 2, 966, 160, 80, 50, "5", Black, Middle },
+    { NumKey, 0, 1058, 160, 80, 50, "6", White, Middle },
+    { NumKey, 0, 874, 222, 80, 50, "7", White, Middle },
+    { NumKey, 1, 966, 222, 80, 50, "8", White, Middle },
+    { NumKey, 0, 1058, 222, 80, 50, "9", White, Middle },
+    { NumKey, 0, 874, 284, 80, 50, "+/-", White, Middle },
+    { NumKey, 0, 966, 284, 80, 50, "0", White, Middle },
+    { "NUMKB_DOT_BTN.png", 0, 1058, 284, 80, 50, ".", White, Middle },
+    { "NUMKB_DEL_BTN.png", 0, 844, 354, 0, 0, "Del", White, Middle },
+    { "NUMKB_DELALL_BTN.png", 0, 902, 354, 0, 0, "Del All", White, Middle },
+    { "NUMKB_BACKSPACE_BTN.png", 1, 987, 354, 0, 0, "", White, Middle },
+    { "NUMKB_APPLY_BTN.png", 0, 1045, 354, 0, 0, "Apply", White, Middle },
+    { "GENKB_SHIFT_BTN.png", 0, 844, 406, 0, 0, "Shift", White, Middle },
+    { "GENKB_BUTTON.png", 0, 907, 406, 0, 0, "q", White, Middle },
+    { "GENKB_BUTTON.png", 2, 960, 406, 0, 0, "w", Black, Middle },
+    { "GENKB_SYMBOL_BTN.png", 2, 1013, 406, 0, 0, "Symbol", Black, Middle },
+    { "HEXKB_APPLY_BTN.png", 2, 1087, 413, 0, 0, "Apply", Black, Middle },
+};
+// clang-format on
+
+const int PartCount = sizeof(Parts) / sizeof(Parts[0]);
+
+const Picture* findPicture(const QList<PictureGroup>& groups, const char* name)
+{
+    for (int i = 0; i < groups.count(); ++i) {
+        for (int k = 0; k < groups.at(i).count; ++k) {
+            if (std::strcmp(groups.at(i).pictures[k].name, name) == 0)
+                return &groups.at(i).pictures[k];
+        }
+    }
+    return 0;
+}
+
+QImage cellOf(const Picture& picture, int index)
+{
+    const QSize cell = cellSize(picture);
+    const QPoint corner(index % picture.columns * cell.width(),
+                        index / picture.columns * cell.height());
+    return render(picture).copy(QRect(corner, cell));
+}
+
+void drawPart(QPainter& painter, const Part& part, const Picture* picture)
+{
+    QRect box(part.x, part.y, part.width, part.height);
+    if (picture) {
+        const QImage image = cellOf(*picture, part.cell);
+        if (part.width == 0)
+            box.setSize(image.size());
+        painter.drawImage(box, image);
+    }
+    painter.setPen(QColor(part.colour));
+    painter.drawText(box, Qt::AlignVCenter | (part.place == Left ? Qt::AlignLeft : Qt::AlignHCenter),
+                     QString::fromLatin1(part.text));
+}
+
+void drawGrounds(QPainter& painter)
+{
+    painter.fillRect(PanelBox, QColor(Palette::Lavender));
+    painter.fillRect(KeypadBox, QColor(Palette::Black));
+    painter.fillRect(QRect(844, 24, 324, 54), QColor(Palette::White));
+}
+
+} // namespace
+
+QImage drawPanelSample(const QList<PictureGroup>& groups)
+{
+    QImage sample(SampleSize, QImage::Format_ARGB32_Premultiplied);
+    sample.fill(0);
+    QPainter painter(&sample);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    QFont font(QString::fromLatin1("Liberation Sans"));
+    font.setPixelSize(TextSize);
+    font.setBold(true);
+    painter.setFont(font);
+    drawGrounds(painter);
+    for (int i = 0; i < PartCount; ++i)
+        drawPart(painter, Parts[i], findPicture(groups, Parts[i].picture));
+    return sample;
+}

@@ -1,0 +1,44 @@
+# Sourced by the scripts in the project's root: installs Debian packages that are missing, and says
+# which. Works as root or with sudo.
+
+# cwidget_install PACKAGE...
+cwidget_install() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
+            missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return 0
+
+    local root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! command -v sudo >/dev/null; then
+            echo "These packages are missing, and neither root nor sudo is there to install them:" >&2
+            echo "  ${missing[*]}" >&2
+            return 1
+        fi
+        root=(sudo)
+    fi
+    echo "Installing ${missing[*]}"
+    "${root[@]}" apt-get update -qq </dev/null
+    "${root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -qq --no-install-recommends "${missing[@]}" </dev/null >/dev/null
+}
+
+# The packages that building the library needs, for the given generation of Qt.
+cwidget_build_packages() {
+    echo cmake ninja-build g++ pkg-config
+    case $1 in
+        5) echo qtbase5-dev ;;
+        6) echo qt6-base-dev libqt6core5compat6-dev libgl-dev ;;
+    esac
+}
+
+# The platform plugins, the fonts and what else a running program needs.
+cwidget_run_packages() {
+    echo fontconfig fonts-liberation fonts-dejavu-core
+    case $1 in
+        5) echo libqt5gui5 ;;
+        6) echo libqt6gui6 qt6-qpa-plugins ;;
+    esac
+}
