@@ -25,6 +25,11 @@ const int rewriteIndent = 4;
 // nests deeper than this is refused before it can exhaust the stack of a small device.
 const int maximumDepth = 20000;
 
+// A style file needs no entities of its own either. Qt bounds those that are made of others; how
+// often one is used is bounded here, by the characters that all uses together may give.
+const int nestedEntityLimit = 4096;
+const qint64 maximumExpansion = 4 * 1024 * 1024;
+
 const struct {
     const char* element;
     Style::Field field;
@@ -55,23 +60,41 @@ bool readFile(const QString& path, QByteArray* content)
     return true;
 }
 
-bool nestsTooDeep(const QByteArray& content)
+/// The most that the entities of the document type in \a reader could make out of \a content.
+qint64 expandedSize(const QXmlStreamReader& reader, const QByteArray& content)
+{
+    int longest = nestedEntityLimit;
+    const QXmlStreamEntityDeclarations entities = reader.entityDeclarations();
+    for (int i = 0; i < entities.size(); ++i)
+        longest = qMax(longest, static_cast<int>(entities.at(i).value().size()));
+    return entities.isEmpty() ? 0 : static_cast<qint64>(content.count('&')) * longest;
+}
+
+/// Whether a document tree of \a content may be built: it must not exhaust stack or memory. What
+/// else is wrong with it is left for the tree's parser to find.
+bool isHarmless(const QByteArray& content)
 {
     QXmlStreamReader reader(content);
     int depth = 0;
+    bool inProlog = true;
     while (!reader.atEnd()) {
         const QXmlStreamReader::TokenType token = reader.readNext();
-        if (token == QXmlStreamReader::StartElement && ++depth > maximumDepth)
-            return true;
-        if (token == QXmlStreamReader::EndElement)
+        if (token == QXmlStreamReader::DTD && expandedSize(reader, content) > maximumExpansion)
+            return false;
+        if (token == QXmlStreamReader::StartElement) {
+            inProlog = false;
+            if (++depth > maximumDepth)
+                return false;
+        } else if (token == QXmlStreamReader::EndElement) {
             --depth;
+        }
     }
-    return false;
+    return !inProlog;
 }
 
 bool parse(const QByteArray& content, QDomDocument* document)
 {
-    return !nestsTooDeep(content) && document->setContent(content);
+    return isHarmless(content) && document->setContent(content);
 }
 
 QDomElement nextWidget(QDomNode node)
@@ -122,6 +145,13 @@ WidgetStyle readWidget(const QDomElement& element)
             style.styles.append(entry);
     }
     return style;
+}
+
+void restoreFile(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        file.write(content);
 }
 
 bool writeDocument(QFile* file, const QDomDocument& document)
@@ -242,10 +272,8 @@ bool CWidgetStyle::setWidgetStyle(const QString& path, const QFont& font)
     }
     if (writeDocument(&file, document))
         return true;
-    file.unsetError();
-    file.resize(0);
-    file.seek(0);
-    file.write(content);
+    file.close(); // drops what could not be written
+    restoreFile(path, content);
     return false;
 }
 

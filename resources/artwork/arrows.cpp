@@ -10,12 +10,19 @@ namespace
 // Arrows without a face. The strip of four goes left, up, right, down; a strip of two left, right.
 const int MostArrows = 4;
 
-enum Strip { Small, White, Black, DropDown };
+enum Strip {
+    Small,
+    White,
+    Black,
+    DropDown
+};
 
 // clang-format off
 const char* const Arrows[][MostArrows] = {
-    { "Si2 M 16 10 L 4.5 10 M 9 5 L 4 10 L 9 15", "Si2 M 10 16 L 10 4.5 M 5 9 L 10 4 L 15 9",
-      "Si2 M 4 10 L 15.5 10 M 11 5 L 16 10 L 11 15", "Si2 M 10 4 L 10 15.5 M 5 11 L 10 16 L 15 11" },
+    { "Si2 M 16 10 L 4.5 10 M 9 5 L 4 10 L 9 15",
+      "Si2 M 10 16 L 10 4.5 M 5 9 L 10 4 L 15 9",
+      "Si2 M 4 10 L 15.5 10 M 11 5 L 16 10 L 11 15",
+      "Si2 M 10 4 L 10 15.5 M 5 11 L 10 16 L 15 11" },
     { "Dpp2 M 17 5 L 7.5 13 L 17 21 Z", "Dpp2 M 9 5 L 18.5 13 L 9 21 Z" },
     { "Daa2 M 17 5 L 7.5 13 L 17 21 Z", "Daa2 M 9 5 L 18.5 13 L 9 21 Z" },
     { "Dii1.5 M 5.5 8 L 14.5 8 L 10 12.75 Z" },

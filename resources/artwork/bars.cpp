@@ -11,12 +11,20 @@
 namespace
 {
 
-enum EntryLook { EntryNormal, EntryPressed, EntrySelected, EntryDisabled };
-enum CloseLook { CloseReleased, ClosePressed, CloseSelected };
+enum EntryLook {
+    EntryNormal,
+    EntryPressed,
+    EntrySelected,
+    EntryDisabled
+};
+enum CloseLook {
+    CloseReleased,
+    ClosePressed,
+    CloseSelected
+};
 
 // A stretch of the bar across the screen: title ground or menu entry.
-struct BarFace
-{
+struct BarFace {
     QRgb top;
     QRgb bottom;
     int highlightAlpha; // first line
@@ -30,7 +38,7 @@ const BarFace BarFaces[] = {
     // top              bottom               light shadow base       height
     { Palette::BarTop, Palette::BarBottom,    46,    0, 0xff6f6a94, 2 },
     { 0xff2d303d,      0xff343746,             0,  130, 0xff8f89bd, 2 },
-    { 0xff7771a0,      0xff5b5680,            84,    0, 0xffe0e0ff, 3 },
+    { 0xff7771a0,      0xff5b5680,            84,    0, 0xffe0e0ff, 2 },
     { 0xff575a69,      0xff575a69,             0,    0, 0xff6d7082, 2 },
 };
 // clang-format on
@@ -56,8 +64,7 @@ void drawBarFace(QPainter& painter, const QRectF& box, const BarFace& face)
     painter.fillRect(QRectF(0, 0, w, 1), translucent(Palette::White, face.highlightAlpha));
     if (face.shadowAlpha > 0)
         fillVertical(painter, QRectF(0, 0, w, BarShadowHeight),
-                     translucent(Palette::Black, face.shadowAlpha),
-                     translucent(Palette::Black, 0));
+                     translucent(Palette::Black, face.shadowAlpha), translucent(Palette::Black, 0));
     const qreal edge = box.height() - BarEdgeHeight;
     painter.fillRect(QRectF(0, edge - face.baseHeight, w, face.baseHeight), QColor(face.base));
     painter.fillRect(QRectF(0, edge, w, BarEdgeHeight), QColor(BarEdge));

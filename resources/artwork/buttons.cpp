@@ -9,7 +9,13 @@ namespace
 
 const int ButtonLooks = 3; // released, pressed, selected
 
-enum Tone { Gray, Green, Orange, Red, ToneCount };
+enum Tone {
+    Gray,
+    Green,
+    Orange,
+    Red,
+    ToneCount
+};
 
 // Added to a tone: the button of the heavier family.
 const int Bold = ToneCount;

@@ -21,8 +21,8 @@ const int Margin = 32;
 const int HeaderHeight = 84;
 const int HeadingHeight = 40;
 const int GroupGap = 14;
-const int ItemGap = 14;
-const int SwatchPadding = 12;
+const int ItemGap = 10;
+const int SwatchPadding = 8;
 const int LabelHeight = 36;
 const int LineHeight = 16;
 const int SwatchRadius = 3;
@@ -41,8 +41,7 @@ const QRgb SwatchEdge = 0xffc3c5d8;
 const QRgb NameColour = 0xff2b2e3a;
 const QRgb DetailColour = 0xff6b6f82;
 
-struct Item
-{
+struct Item {
     QImage image;
     QString name;
     QString detail;
@@ -50,8 +49,7 @@ struct Item
     QRect place; // swatches and label
 };
 
-struct Block
-{
+struct Block {
     QString title;
     int top;
     QVector<Item> items;
@@ -162,15 +160,14 @@ void drawText(QPainter& painter, const QRect& box, int size, bool bold, QRgb col
 {
     painter.setFont(sheetFont(size, bold));
     painter.setPen(QColor(colour));
-    painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
+    painter.drawText(box, Qt::AlignLeft | Qt::AlignVCenter, text);
 }
 
 void drawSwatch(QPainter& painter, const QRect& box, QRgb ground, const QImage& image)
 {
     painter.setPen(QColor(SwatchEdge));
     painter.setBrush(QColor(ground));
-    painter.drawRoundedRect(QRectF(box).adjusted(0.5, 0.5, -0.5, -0.5), SwatchRadius,
-                            SwatchRadius);
+    painter.drawRoundedRect(QRectF(box).adjusted(0.5, 0.5, -0.5, -0.5), SwatchRadius, SwatchRadius);
     painter.drawImage(box.left() + SwatchPadding, box.top() + SwatchPadding, image);
 }
 

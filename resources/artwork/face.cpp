@@ -72,8 +72,7 @@ void drawSunken(QPainter& painter, const QRectF& body, qreal radius)
     upper.addRect(shadow);
     painter.fillPath(shape & upper, downward(shadow, translucent(Palette::Black, ShadowAlpha),
                                              translucent(Palette::Black, 0)));
-    painter.fillPath(shape - shape.translated(0, -1),
-                     translucent(Palette::White, RefractionAlpha));
+    painter.fillPath(shape - shape.translated(0, -1), translucent(Palette::White, RefractionAlpha));
 }
 
 void drawLit(QPainter& painter, const QRectF& body, qreal radius, QRgb colour, qreal rim)

@@ -7,8 +7,7 @@ class QPainter;
 class QRectF;
 
 // How a surface stands against the panel; the light comes from above.
-enum Depth
-{
+enum Depth {
     Raised, // to be touched: light line on top, soft edge at the bottom
     Sunken, // under the finger: shadow on top
     Lit,    // chosen: bright rim
@@ -16,8 +15,7 @@ enum Depth
 };
 
 // Colours and build of one surface: button, key or tile.
-struct Face
-{
+struct Face {
     Depth depth;
     QRgb top; // of the vertical gradient
     QRgb bottom;
@@ -26,8 +24,7 @@ struct Face
 };
 
 // Widths of a surface's parts, px.
-struct Build
-{
+struct Build {
     qreal radius; // of the outer corners
     qreal edge;
     qreal lip; // dark edge inside the bottom of a raised surface

@@ -12,10 +12,15 @@ namespace
 
 // --- devices and files ---------------------------------------------------------------------------
 
-enum Icon { Folder, Laptop, Phone, Radio, Magnifier };
+enum Icon {
+    Folder,
+    Laptop,
+    Phone,
+    Radio,
+    Magnifier
+};
 
-struct IconRow
-{
+struct IconRow {
     Scheme scheme;
     const char* shape;
 };
@@ -26,7 +31,7 @@ const IconRow Icons[] = {
       "Dsi2 M 4 7 L 12 7 L 15 10 L 25 10 L 25 26 L 4 26 Z;"
       "Dai2 M 4 26 L 9 15 L 30 15 L 25 26 Z" },
     { { Palette::Ink, Palette::Violet, Palette::Paper, 0xffc9cbe0 },
-      "Dpi2 R 5 5 22 16 2;Fa R 8 8 16 10 0.5;Dsi2 M 2 24 L 30 24 L 28 27 L 4 27 Z" },
+      "Dpi2 R 5 5 22 16 2;Fa R 8 8 16 10 0.5;Dsi2 M 2 24 L 30 24 L 28 28 L 4 28 Z" },
     { { Palette::Ink, Palette::Violet, Palette::Paper, 0xffc9cbe0 },
       "Dpi2 R 9 3 14 26 3;Fa R 12 8 8 14 0.5;Bi1 M 14 5.5 L 18 5.5;Fi O 16 25.5 1.25" },
     { { 0xff1f4f8f, Palette::Blue, Palette::White, 0xffc9cbe0 },
@@ -44,10 +49,14 @@ void drawIcon(QPainter& painter, const QSize&, int, int icon)
 
 // --- buttons of a browser: a white sign on a disc ------------------------------------------------
 
-enum Disc { Back, Forward, Reload, Stop };
+enum Disc {
+    Back,
+    Forward,
+    Reload,
+    Stop
+};
 
-struct DiscRow
-{
+struct DiscRow {
     Face face;
     const char* sign;
 };
@@ -72,8 +81,8 @@ const Scheme OnDisc = {Palette::White, Palette::Lavender, Palette::White, Palett
 
 void drawDisc(QPainter& painter, const QSize& cell, int, int disc)
 {
-    const QRectF box = QRectF(QPointF(0, 0), cell).adjusted(DiscMargin, DiscMargin, -DiscMargin,
-                                                            -DiscMargin);
+    const QRectF box =
+        QRectF(QPointF(0, 0), cell).adjusted(DiscMargin, DiscMargin, -DiscMargin, -DiscMargin);
     drawFace(painter, box, Discs[disc].face, DiscBuild);
     drawShape(painter, Discs[disc].sign, OnDisc);
 }

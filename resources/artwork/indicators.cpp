@@ -15,8 +15,7 @@ namespace
 
 // --- lamps ---------------------------------------------------------------------------------------
 
-struct Lamp
-{
+struct Lamp {
     QRgb core;
     QRgb glass;
     QRgb deep;
@@ -69,8 +68,8 @@ void drawGlass(QPainter& painter, const QPointF& centre, qreal radius, const Lam
     fillCircle(painter, centre, radius, glass);
 
     QPainterPath shine;
-    shine.addEllipse(QRectF(centre.x() - 0.6 * radius, centre.y() - 0.85 * radius, 1.2 * radius,
-                            0.75 * radius));
+    shine.addEllipse(
+        QRectF(centre.x() - 0.6 * radius, centre.y() - 0.85 * radius, 1.2 * radius, 0.75 * radius));
     QLinearGradient fade(0, centre.y() - radius, 0, centre.y());
     fade.setColorAt(0, translucent(Palette::White, lamp.shineAlpha));
     fade.setColorAt(1, translucent(Palette::White, 0));
@@ -145,8 +144,7 @@ void drawClockMarks(QPainter& painter)
 
 void drawClockHand(QPainter& painter)
 {
-    painter.setPen(
-        QPen(QBrush(QColor(ClockHand)), ClockHandWidth, Qt::SolidLine, Qt::RoundCap));
+    painter.setPen(QPen(QBrush(QColor(ClockHand)), ClockHandWidth, Qt::SolidLine, Qt::RoundCap));
     painter.drawLine(QPointF(0, 0), QPointF(0, -ClockHandLength));
     fillCircle(painter, QPointF(0, 0), ClockHubRadius, QColor(ClockHand));
 }

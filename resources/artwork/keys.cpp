@@ -10,7 +10,12 @@ namespace
 
 const int KeyLooks = 3; // released, pressed, selected
 
-enum Tone { Letter, Function, Apply, ToneCount };
+enum Tone {
+    Letter,
+    Function,
+    Apply,
+    ToneCount
+};
 
 // The keys write their own texts: white on released and pressed, black on selected.
 // clang-format off

@@ -18,7 +18,11 @@
 namespace
 {
 
-enum ExitCode { Done, CannotWrite, WrongUsage };
+enum ExitCode {
+    Done,
+    CannotWrite,
+    WrongUsage
+};
 
 const char SheetOption[] = "--contact-sheet";
 

@@ -1,6 +1,7 @@
 #include "panelsample.h"
 
 #include "palette.h"
+#include "shape.h"
 
 #include <QFont>
 #include <QImage>
@@ -14,20 +15,24 @@ namespace
 {
 
 // px
-const QSize SampleSize(1196, 464);
-const QRect PanelBox(0, 0, 800, 464);
-const QRect KeypadBox(816, 0, 380, 464);
+const QSize SampleSize(1196, 456);
+const QRect PanelBox(0, 0, 800, 456);
+const QRect KeypadBox(816, 0, 380, 456);
+const QRect EntryBox(835, 22, 341, 54);
+const QRect BackspaceBox(1126, 350, 50, 40);
 const int TextSize = 13;
 
 const QRgb White = Palette::White;
 const QRgb Black = Palette::Black;
 
-enum Place { Middle, Left };
+enum Place {
+    Middle,
+    Left
+};
 
 // One cell of a picture with a text, or a text alone where the picture is empty. A width of 0
 // leaves the cell its own size.
-struct Part
-{
+struct Part {
     const char* picture;
     int cell;
     int x;
@@ -123,10 +128,12 @@ const Part Parts[] = {
     { "spin_plus.png", 0, 636, 372, 0, 0, "", White, Middle },
     { "zoom_in.png", 0, 684, 375, 0, 0, "", White, Middle },
     { "zoom_out.png", 0, 717, 375, 0, 0, "", White, Middle },
-    { PageArrow, 1, 312, 434, 0, 0, "", White, Middle },
-    { "", 0, 338, 434, 124, 20, "Page 2 of 5", Black, Middle },
-    { PageArrow, 3, 462, 434, 0, 0, "", White, Middle },
+    { PageArrow, 1, 312, 428, 0, 0, "", White, Middle },
+    { "", 0, 338, 428, 124, 20, "Page 2 of 5", Black, Middle },
+    { PageArrow, 3, 462, 428, 0, 0, "", White, Middle },
 
+    { "", 0, 850, 24, 200, 27, "Set point", 0xff6b6f82, Left },
+    { "", 0, 850, 46, 200, 27, "24.5 m3/h", Black, Left },
     { NumKey, 0, 874, 98, 80, 50, "1", White, Middle },
     { NumKey, 0, 966, 98, 80, 50, "2", White, Middle },
     { NumKey, 0, 1058, 98, 80, 50, "3", White, Middle },
@@ -138,16 +145,16 @@ const Part Parts[] = {
     { NumKey, 0, 1058, 222, 80, 50, "9", White, Middle },
     { NumKey, 0, 874, 284, 80, 50, "+/-", White, Middle },
     { NumKey, 0, 966, 284, 80, 50, "0", White, Middle },
-    { "NUMKB_DOT_BTN.png", 0, 1058, 284, 80, 50, ".", White, Middle },
-    { "NUMKB_DEL_BTN.png", 0, 844, 354, 0, 0, "Del", White, Middle },
-    { "NUMKB_DELALL_BTN.png", 0, 902, 354, 0, 0, "Del All", White, Middle },
-    { "NUMKB_BACKSPACE_BTN.png", 1, 987, 354, 0, 0, "", White, Middle },
-    { "NUMKB_APPLY_BTN.png", 0, 1045, 354, 0, 0, "Apply", White, Middle },
-    { "GENKB_SHIFT_BTN.png", 0, 844, 406, 0, 0, "Shift", White, Middle },
-    { "GENKB_BUTTON.png", 0, 907, 406, 0, 0, "q", White, Middle },
-    { "GENKB_BUTTON.png", 2, 960, 406, 0, 0, "w", Black, Middle },
-    { "GENKB_SYMBOL_BTN.png", 2, 1013, 406, 0, 0, "Symbol", Black, Middle },
-    { "HEXKB_APPLY_BTN.png", 2, 1087, 413, 0, 0, "Apply", Black, Middle },
+    { "NUMKB_DEL_BTN.png", 0, 835, 350, 0, 0, "Del", White, Middle },
+    { "NUMKB_DELALL_BTN.png", 0, 891, 350, 0, 0, "Del All", White, Middle },
+    { "NUMKB_DOT_BTN.png", 0, 974, 350, 0, 0, ".", White, Middle },
+    { "NUMKB_APPLY_BTN.png", 0, 1030, 350, 0, 0, "Apply", White, Middle },
+    { "NUMKB_BACKSPACE_BTN.png", 0, 1126, 350, 0, 0, "", White, Middle },
+    { "GENKB_SHIFT_BTN.png", 0, 835, 400, 0, 0, "Shift", White, Middle },
+    { "GENKB_BUTTON.png", 0, 896, 400, 0, 0, "q", White, Middle },
+    { "GENKB_BUTTON.png", 2, 947, 400, 0, 0, "w", Black, Middle },
+    { "GENKB_SYMBOL_BTN.png", 2, 998, 400, 0, 0, "Symbol", Black, Middle },
+    { "HEXKB_APPLY_BTN.png", 2, 1086, 407, 0, 0, "Apply", Black, Middle },
 };
 // clang-format on
 
@@ -182,7 +189,8 @@ void drawPart(QPainter& painter, const Part& part, const Picture* picture)
         painter.drawImage(box, image);
     }
     painter.setPen(QColor(part.colour));
-    painter.drawText(box, Qt::AlignVCenter | (part.place == Left ? Qt::AlignLeft : Qt::AlignHCenter),
+    painter.drawText(box,
+                     Qt::AlignVCenter | (part.place == Left ? Qt::AlignLeft : Qt::AlignHCenter),
                      QString::fromLatin1(part.text));
 }
 
@@ -190,7 +198,17 @@ void drawGrounds(QPainter& painter)
 {
     painter.fillRect(PanelBox, QColor(Palette::Lavender));
     painter.fillRect(KeypadBox, QColor(Palette::Black));
-    painter.fillRect(QRect(844, 24, 324, 54), QColor(Palette::White));
+    painter.fillRect(EntryBox, QColor(Palette::White));
+}
+
+// The arrow that the backspace key draws over its picture.
+void drawBackspaceArrow(QPainter& painter)
+{
+    static const Scheme colours = {White, White, White, White};
+    painter.save();
+    painter.translate(BackspaceBox.center());
+    drawShape(painter, "Fi M -4 -4 L -8 0 L -4 4 Z;Bi2 M -4 0 L 9 0", colours);
+    painter.restore();
 }
 
 } // namespace
@@ -208,5 +226,6 @@ QImage drawPanelSample(const QList<PictureGroup>& groups)
     drawGrounds(painter);
     for (int i = 0; i < PartCount; ++i)
         drawPart(painter, Parts[i], findPicture(groups, Parts[i].picture));
+    drawBackspaceArrow(painter);
     return sample;
 }

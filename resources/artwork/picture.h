@@ -11,8 +11,7 @@ class QPainter;
 typedef void (*DrawCell)(QPainter& painter, const QSize& cell, int index, int kind);
 
 // What a picture is meant to stand on.
-enum Ground
-{
+enum Ground {
     OnLight,
     OnDark,
     OnBoth,
@@ -20,8 +19,7 @@ enum Ground
 };
 
 // One file of the collection: a grid of equal cells, most often a strip of looks side by side.
-struct Picture
-{
+struct Picture {
     const char* name;
     int width; // of the whole image, px
     int height;
@@ -33,8 +31,7 @@ struct Picture
 };
 
 // The pictures of one subject, in the order of the contact sheet.
-struct PictureGroup
-{
+struct PictureGroup {
     const char* title;
     const Picture* pictures;
     int count;

@@ -13,8 +13,7 @@ namespace
 
 const int MostArguments = 6;
 
-struct Layer
-{
+struct Layer {
     bool fill;
     bool stroke;
     QRgb fillColour;
@@ -63,8 +62,7 @@ void addArc(QPainterPath& path, const qreal* a)
     path.arcTo(circle, a[3], a[4]);
 }
 
-struct Command
-{
+struct Command {
     char letter;
     int arguments;
     AddSegment add;
@@ -149,7 +147,7 @@ void drawShape(QPainter& painter, const char* text, const Scheme& scheme)
         if (layer.fill)
             painter.fillPath(path, QColor::fromRgba(layer.fillColour));
         if (layer.stroke)
-            painter.strokePath(path, QPen(QBrush(QColor::fromRgba(layer.strokeColour)),
-                                          layer.width, Qt::SolidLine, layer.cap, layer.join));
+            painter.strokePath(path, QPen(QBrush(QColor::fromRgba(layer.strokeColour)), layer.width,
+                                          Qt::SolidLine, layer.cap, layer.join));
     }
 }

@@ -6,8 +6,7 @@
 class QPainter;
 
 // The colours that a shape refers to by letter.
-struct Scheme
-{
+struct Scheme {
     QRgb ink;    // i
     QRgb accent; // a
     QRgb paper;  // p

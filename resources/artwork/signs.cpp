@@ -15,13 +15,13 @@ namespace
 
 const int WirelessSteps = 4; // dot and three arcs: 25, 50, 75, 100 percent
 const qreal WirelessRadii[WirelessSteps] = {0, 6, 10.5, 15}; // px in a box of 24
-const QRgb WirelessIdle = 0xff6b7088;
+const QRgb WirelessLit = Palette::GreenLit;
 const qreal WirelessFootX = 12;
 const qreal WirelessFootY = 19;
 const qreal WirelessDotRadius = 2.25;
 const qreal WirelessWidth = 2.5;
 const qreal WirelessOutline = 1; // on each side; fills the gap between two arcs
-const qreal WirelessFrom = 48;      // degrees
+const qreal WirelessFrom = 48;   // degrees
 const qreal WirelessSpan = 84;
 
 QPainterPath wirelessStep(int step)
@@ -47,10 +47,10 @@ void drawWireless(QPainter& painter, const QSize&, int, int level)
 {
     const QPen outline(QBrush(QColor(Palette::Outline)), 2 * WirelessOutline, Qt::SolidLine,
                        Qt::RoundCap, Qt::RoundJoin);
-    for (int step = 0; step < WirelessSteps; ++step)
+    for (int step = 0; step < level; ++step)
         painter.strokePath(wirelessStep(step), outline);
     for (int step = 0; step < WirelessSteps; ++step)
-        painter.fillPath(wirelessStep(step), QColor(step < level ? Palette::White : WirelessIdle));
+        painter.fillPath(wirelessStep(step), QColor(step < level ? WirelessLit : Palette::Idle));
 }
 
 const qreal ConnectedScale = 1.25;
@@ -58,8 +58,7 @@ const qreal ConnectedScale = 1.25;
 // The full sign with a green tick.
 void drawConnected(QPainter& painter, const QSize& cell, int, int)
 {
-    static const Scheme colours = {Palette::Outline, Palette::Green, Palette::White,
-                                   Palette::Idle};
+    static const Scheme colours = {Palette::Outline, Palette::Green, Palette::White, Palette::Idle};
     painter.save();
     painter.scale(ConnectedScale, ConnectedScale);
     drawWireless(painter, cell, 0, WirelessSteps);
@@ -69,7 +68,10 @@ void drawConnected(QPainter& painter, const QSize& cell, int, int)
 
 // --- lock and shield -----------------------------------------------------------------------------
 
-enum Sign { Lock, Shield };
+enum Sign {
+    Lock,
+    Shield
+};
 
 const char* const Signs[] = {
     "Si4 M 5 8 L 5 5.5 A 8 5.5 3 180 -180 L 11 8;"

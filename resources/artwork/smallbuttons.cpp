@@ -15,15 +15,25 @@ const int PressedDrop = 1; // px that a sign goes down with its button
 const Scheme OnFace = {Palette::White, Palette::Lavender, Palette::White, Palette::Lavender};
 
 // A sign in the 16 px box that the zoom pictures share with the zoom buttons
-const char ZoomInSign[] = "Si2 O 7 7 5.5;Bi2 M 4 7 L 10 7 M 7 4 L 7 10;Si2.5 M 11.6 11.6 L 14.2 14.2";
+const char ZoomInSign[] = "Si2 O 7 7 5.5;Bi2 M 4 7 L 10 7 M 7 4 L 7 10;"
+                          "Si2.5 M 11.6 11.6 L 14.2 14.2";
 const char ZoomOutSign[] = "Si2 O 7 7 5.5;Bi2 M 4 7 L 10 7;Si2.5 M 11.6 11.6 L 14.2 14.2";
 
 // --- buttons with a face -------------------------------------------------------------------------
 
-enum Tool { PrevNext, Up, Down, Minus, Plus, NextPage, PrevPage, ZoomIn, ZoomOut };
+enum Tool {
+    PrevNext,
+    Up,
+    Down,
+    Minus,
+    Plus,
+    NextPage,
+    PrevPage,
+    ZoomIn,
+    ZoomOut
+};
 
-struct ToolCell
-{
+struct ToolCell {
     Depth depth;
     const char* sign;
     int x; // where the sign's box begins
@@ -39,6 +49,7 @@ const char PlusSign[] = "Fi R 7 13 14 2 0 R 13 7 2 14 0";
 const char NextPageSign[] = "Si2 M 7.5 6 L 12.5 11 L 7.5 16 M 13.5 6 L 18.5 11 L 13.5 16";
 const char PrevPageSign[] = "Si2 M 17.5 6 L 12.5 11 L 17.5 16 M 11.5 6 L 6.5 11 L 11.5 16";
 
+// One row for each strip, its cells from the left.
 // clang-format off
 const ToolCell ToolCells[][MostLooks] = {
     { { Sunken, LeftSign,     0, 0 }, { Raised, LeftSign,     0, 0 },
@@ -72,7 +83,12 @@ const char NextSign[] = "Si2 M 3 8 L 12.5 8 M 8.5 3.5 L 13 8 L 8.5 12.5";
 
 const char* const BareSigns[] = {PreviousSign, NextSign, ZoomInSign, ZoomOutSign};
 
-enum Bare { Previous, Next, BareZoomIn, BareZoomOut };
+enum Bare {
+    Previous,
+    Next,
+    BareZoomIn,
+    BareZoomOut
+};
 
 void drawBare(QPainter& painter, const QSize& cell, int index, int sign)
 {

@@ -13,7 +13,7 @@ namespace
 const int TileColumns = 3;
 const int TileRows = 10;
 const Build TileBuild = {4, 1, 2, 1.5};
-const qreal SignBox = 24;  // px, centred in the tile
+const qreal SignBox = 24;   // px, centred in the tile
 const qreal BandHeight = 3; // accent along the bottom, one colour for each row
 
 const Face TileFace = {Raised, 0xff5a5e71, 0xff434757, 0xff262934, 0};
