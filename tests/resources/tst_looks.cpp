@@ -53,6 +53,8 @@ const size_t stripCount = sizeof strips / sizeof strips[0];
 QImage picture(const Strip& strip, int index)
 {
     const QImage image(QLatin1String(":/images/") + QLatin1String(strip.image));
+    if (image.isNull())
+        qFatal("there is no picture %s", strip.image);
     QImage onGround = testing::canvas(QSize(strip.width, image.height()), QColor(0x63, 0x5E, 0x80));
     QPainter(&onGround).drawImage(-index * strip.width, 0, image);
     return onGround;
