@@ -3,6 +3,7 @@
 
 // What differs between Qt 4.8, 5 and 6 in tests. No other test asks for the version of Qt.
 
+#include <QFontMetrics>
 #include <QPixmap>
 #include <QtTest>
 
@@ -65,6 +66,16 @@ inline bool waitForWindow(QWidget* window)
     return QTest::qWaitForWindowExposed(window);
 #else
     return QTest::qWaitForWindowShown(window);
+#endif
+}
+
+/// The advance of \a text in pixels.
+inline int textWidth(const QFontMetrics& metrics, const QString& text)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
+    return metrics.horizontalAdvance(text);
+#else
+    return metrics.width(text);
 #endif
 }
 
