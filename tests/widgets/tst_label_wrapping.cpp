@@ -81,7 +81,7 @@ const Row rows[] = {
     // ---- a word without a separator before it, wider than a line: one character is left out
     {"over-long alone",      CLabel::WordWrap, "iiii",     "iiiiiiiii",      "iiii\niiii"},
     {"over-long, letters",   CLabel::WordWrap, "abcd",     "abcdefgh",       "abcd\nfgh"},
-    {"over-long, then more", CLabel::WordWrap, "abcd",     "abcdefgh ij",    "abcd\nfgh\n ij"},
+    {"over-long, then more", CLabel::WordWrap, "abcd",     "abcdefgh ijkl",  "abcd\nfgh\n ijkl"},
     {"over-long after one",  CLabel::WordWrap, " abcd",    "xy abcdefgh",    "xy\n abcd\nfgh"},
     // clang-format on
 };

@@ -1,0 +1,164 @@
+// The gallery: a device's front panel that shows every widget of the library, built as an
+// application developer would build it.
+
+#include "panel.h"
+#include "shots.h"
+
+#include <CWidgetStyle>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QStringList>
+#include <QVector>
+
+#include <cstdio>
+
+namespace
+{
+
+const char usage[] = "usage: quorlin-gallery [--style FILE] [--screen NAME] [--shots DIR]\n"
+                     "                       [--platform PLATFORM and other options of Qt]\n"
+                     "\n"
+                     "  --style FILE    the style file; without it, a copy of the one that comes\n"
+                     "                  with the library\n"
+                     "  --screen NAME   the screen to start with: ";
+
+const char usageEnd[] = "  --shots DIR     draw every screen into a picture in DIR, and leave\n";
+
+struct Options {
+    Options() : valid(true)
+    {
+    }
+
+    bool valid;
+    QString style;
+    QString screen;
+    QString shots;
+};
+
+/// Takes the gallery's own arguments out of \a arguments. Qt must not see them: it has a --style of
+/// its own, which is still to be had as -style.
+Options takeOptions(QStringList* arguments)
+{
+    Options options;
+    for (int i = 1; i < arguments->size() && options.valid;) {
+        const QString name = arguments->at(i);
+        QString* value = name == QLatin1String("--style")    ? &options.style
+                         : name == QLatin1String("--screen") ? &options.screen
+                         : name == QLatin1String("--shots")  ? &options.shots
+                                                             : 0;
+        if (!value) {
+            ++i;
+            continue;
+        }
+        arguments->removeAt(i);
+        options.valid = i < arguments->size();
+        if (options.valid)
+            *value = arguments->takeAt(i);
+    }
+    return options;
+}
+
+int printUsage()
+{
+    fprintf(stderr, "%s%s\n%s", usage, qPrintable(Panel::screenNames().join(QLatin1String(", "))),
+            usageEnd);
+    return 2;
+}
+
+/// Without a display Qt could only give up. The panel is then drawn in memory, or served by VNC.
+void choosePlatform(const Options& options, const QStringList& arguments)
+{
+    const bool chosen = !qgetenv("QT_QPA_PLATFORM").isEmpty() || !qgetenv("DISPLAY").isEmpty() ||
+                        !qgetenv("WAYLAND_DISPLAY").isEmpty() ||
+                        arguments.contains(QLatin1String("-platform")) ||
+                        arguments.contains(QLatin1String("--platform"));
+    if (chosen)
+        return;
+    if (!options.shots.isEmpty()) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    } else {
+        qputenv("QT_QPA_PLATFORM", "vnc:size=800x600");
+        fprintf(stderr, "There is no display: the panel is served by VNC, on port 5900.\n");
+    }
+}
+
+/// What is left of the command line, as main() gets it.
+class Arguments
+{
+public:
+    explicit Arguments(const QStringList& arguments)
+    {
+        for (int i = 0; i < arguments.size(); ++i)
+            m_texts.append(arguments.at(i).toLocal8Bit());
+        for (int i = 0; i < m_texts.size(); ++i)
+            m_pointers.append(m_texts[i].data());
+        m_pointers.append(0);
+        m_count = m_texts.size();
+    }
+
+    int& count()
+    {
+        return m_count;
+    }
+
+    char** values()
+    {
+        return m_pointers.data();
+    }
+
+private:
+    QList<QByteArray> m_texts;
+    QVector<char*> m_pointers;
+    int m_count;
+};
+
+/// The theme screen rewrites its style file, so the library's own is copied first.
+QString copyOfDefaultStyle()
+{
+    const QString copy = QDir::temp().filePath(
+        QString::fromLatin1("quorlin-gallery-%1.xml").arg(QApplication::applicationPid()));
+    QFile::remove(copy);
+    return QFile::copy(QLatin1String(GALLERY_STYLE_FILE), copy) ? copy : QString();
+}
+
+int run(const Options& options)
+{
+    const QString copy = options.style.isEmpty() ? copyOfDefaultStyle() : QString();
+    const QString style = options.style.isEmpty() ? copy : options.style;
+    if (!CWidgetStyle::initialize(style))
+        fprintf(stderr, "The style file %s cannot be read; the panel has no styles.\n",
+                qPrintable(style));
+    Panel panel(style);
+    panel.showScreen(options.screen.isEmpty() ? Panel::screenNames().first() : options.screen);
+    int result = 0;
+    if (options.shots.isEmpty()) {
+        panel.show();
+        result = QApplication::exec();
+    } else {
+        result = writeShots(&panel, options.shots) ? 0 : 1;
+    }
+    if (!copy.isEmpty())
+        QFile::remove(copy);
+    return result;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QStringList words;
+    for (int i = 0; i < argc; ++i)
+        words.append(QString::fromLocal8Bit(argv[i]));
+    const Options options = takeOptions(&words);
+    if (!options.valid ||
+        !(options.screen.isEmpty() || Panel::screenNames().contains(options.screen)))
+        return printUsage();
+    choosePlatform(options, words);
+    Arguments arguments(words);
+    QApplication application(arguments.count(), arguments.values());
+    QApplication::setApplicationName(QLatin1String("Quorlin gallery"));
+    if (QApplication::arguments().size() > 1) // neither ours nor Qt's
+        return printUsage();
+    return run(options);
+}

@@ -1,0 +1,209 @@
+#include "panel.h"
+
+#include "controlsscreen.h"
+#include "picturesscreen.h"
+#include "themescreen.h"
+#include "titlestrip.h"
+
+#include <CWidgetStyle>
+#include <KQWidgetStack>
+#include <QApplication>
+#include <QDir>
+
+namespace
+{
+
+template <class ScreenClass>
+Screen* make(Panel* panel)
+{
+    return new ScreenClass(panel);
+}
+
+// The screens, in the order of the menu.
+const struct Entry {
+    const char* name;
+    const char* label;
+    Screen* (*make)(Panel* panel);
+} entries[] = {
+    // clang-format off
+    {"controls", "Controls", make<ControlsScreen>},
+    {"theme",    "Theme",    make<ThemeScreen>},
+    {"pictures", "Pictures", make<PicturesScreen>},
+    // clang-format on
+};
+
+const int entryCount = sizeof entries / sizeof entries[0];
+const int entryHeight = 50;
+
+KQWidgetStack* stack()
+{
+    return KQWidgetStack::instance();
+}
+
+} // namespace
+
+/// Styled by \a styleFile, which the theme screen rewrites.
+Panel::Panel(const QString& styleFile) : CWidget(0), m_styleFile(styleFile)
+{
+    setSize(CWidgetStyle::getSize(CWidgetStyle::ScreenSize));
+    setBackgroundColor(QColor(0x2E, 0x31, 0x3D));
+    setWindowTitle(QLatin1String("Quorlin front panel"));
+    m_strip = new TitleStrip(this);
+    addMenu();
+    addBottomBar();
+    const int column = CWidgetStyle::getSize(CWidgetStyle::LeftColumnSize).width();
+    for (int i = 0; i < entryCount; ++i) {
+        m_screens.append(entries[i].make(this));
+        m_screens.last()->move(column, m_strip->height());
+    }
+}
+
+QStringList Panel::screenNames()
+{
+    QStringList names;
+    for (int i = 0; i < entryCount; ++i)
+        names.append(QLatin1String(entries[i].name));
+    return names;
+}
+
+Screen* Panel::screen(const QString& name) const
+{
+    const int index = screenNames().indexOf(name);
+    return index < 0 ? 0 : m_screens.at(index);
+}
+
+/// Shows a screen of the menu, and nothing below it.
+void Panel::showScreen(const QString& name)
+{
+    Screen* shown = screen(name);
+    if (!shown)
+        return;
+    stack()->popAll();
+    for (int i = 0; i < entryCount; ++i)
+        m_menu.at(i)->setSelected(m_screens.at(i) == shown);
+    setHint(QString());
+    shown->show();
+    if (!isVisible()) // a hidden panel's screens get no show event of their own
+        stack()->push(shown);
+    updateBars();
+}
+
+/// Shows \a screen above the current one: back() returns from it.
+void Panel::openAbove(Screen* screen)
+{
+    screen->show();
+    updateBars();
+}
+
+/// Returns from a screen that was opened above another one.
+void Panel::back()
+{
+    if (stack()->size() > 1)
+        stack()->pop();
+    updateBars();
+}
+
+/// Shows \a text in the bottom bar.
+void Panel::setHint(const QString& text)
+{
+    m_hint->setText(text);
+}
+
+/// Gives all widgets a font family while the panel runs: rewrites the style file, reads it again
+/// and styles the widgets anew.
+void Panel::restyle(const QString& family)
+{
+    if (!CWidgetStyle::setWidgetStyle(m_styleFile, QFont(family)) ||
+        !CWidgetStyle::initialize(m_styleFile)) {
+        setHint(QString::fromLatin1("%1 cannot be rewritten").arg(m_styleFile));
+        return;
+    }
+    updateWidgetStyle();
+    setHint(QString::fromLatin1("The style file now says %1").arg(family));
+}
+
+/// Buttons are no CWidgets, so the walk over the children does not reach them.
+void Panel::updateWidgetStyle()
+{
+    CWidget::updateWidgetStyle();
+    const WidgetStyle style = CWidgetStyle::getWidgetStyle(QLatin1String("CPushButton"));
+    const QList<CPushButton*> buttons = findChildren<CPushButton*>();
+    for (int i = 0; i < buttons.size(); ++i)
+        buttons.at(i)->setWidgetStyle(style);
+}
+
+/// Stops the clock of the title strip at a time that looks well in a picture.
+void Panel::freezeTime()
+{
+    m_strip->freezeTime(QLatin1String("10:24"));
+}
+
+void Panel::menuPressed()
+{
+    const int index = m_menu.indexOf(qobject_cast<CPushButton*>(sender()));
+    if (index >= 0)
+        showScreen(QLatin1String(entries[index].name));
+}
+
+void Panel::addMenu()
+{
+    const QSize column = CWidgetStyle::getSize(CWidgetStyle::LeftColumnSize);
+    const QPixmap normal = CWidgetStyle::getEntryStatus(CWidgetStyle::EntryFirst);
+    const QPixmap pressed = CWidgetStyle::getEntryStatus(CWidgetStyle::EntrySecond);
+    const QPixmap selected = CWidgetStyle::getEntryStatus(CWidgetStyle::EntryThird);
+    for (int i = 0; i < entryCount; ++i) {
+        CPushButton* button = new CPushButton(this);
+        button->setObjectName(QLatin1String("menu-") + QLatin1String(entries[i].name));
+        button->setText(QLatin1String(entries[i].label));
+        button->setTextColor(Qt::white);
+        button->setBackground(normal);
+        button->setExtraAttr(CPushButton::PressedPixmap, pressed);
+        button->setExtraAttr(CPushButton::ReleasedPixmap, normal);
+        button->setExtraAttr(CPushButton::SelectedPixmap, selected);
+        button->setFixedSize(column.width(), entryHeight);
+        button->move(0, m_strip->height() + i * entryHeight);
+        connect(button, SIGNAL(clicked()), this, SLOT(menuPressed()), Qt::QueuedConnection);
+        m_menu.append(button);
+    }
+}
+
+void Panel::addBottomBar()
+{
+    const QSize size = CWidgetStyle::getSize(CWidgetStyle::BottomBarSize);
+    CWidget* bar = new CWidget(this);
+    bar->setSize(size);
+    bar->setBackground(QPixmap(QLatin1String(":/images/UTIL_TB_BKGROUND.png")));
+    bar->move(0, height() - size.height());
+
+    m_back = new CPushButton(bar);
+    m_back->setObjectName(QLatin1String("back"));
+    m_back->setStyle(CPushButton::DefaultStyle, true);
+    m_back->setBackgroundColor(QColor());
+    m_back->setAutoFillBackground(false);
+    m_back->setIcon(QIcon(QLatin1String(":/images/back.png")));
+    m_back->setIconSize(QSize(20, 20));
+    m_back->setText(QLatin1String("Back"));
+    m_back->setFixedSize(104, 32);
+    m_back->move(8, 6);
+    connect(m_back, SIGNAL(clicked()), this, SLOT(back()));
+
+    m_hint = plainLabel(QString(), bar);
+    m_hint->setTextColor(Qt::white);
+    m_hint->setGeometry(132, 8, 520, 28);
+
+    CWidget* lamp = new CWidget(bar);
+    lamp->setSize(16, 16);
+    lamp->setBackground(
+        CWidgetStyle::getLEDStatus(CWidgetStyle::LedState1, CWidgetStyle::SmallIcon));
+    lamp->move(712, 14);
+    CLabel* state = plainLabel(QLatin1String("Ready"), bar);
+    state->setTextColor(Qt::white);
+    state->setGeometry(732, 8, 60, 28);
+}
+
+void Panel::updateBars()
+{
+    Screen* top = qobject_cast<Screen*>(stack()->top());
+    m_strip->setScreenTitle(top ? top->title() : QString());
+    m_back->setVisible(stack()->size() > 1);
+}

@@ -1,0 +1,27 @@
+#ifndef GALLERY_THEMESCREEN_H
+#define GALLERY_THEMESCREEN_H
+
+#include "gallerywidgets.h"
+
+class Panel;
+
+/// Font families to choose from: a touch rewrites the style file, and the panel takes it over while
+/// it runs. Below, the colours of the palette.
+class ThemeScreen : public Screen
+{
+    Q_OBJECT
+
+public:
+    explicit ThemeScreen(Panel* panel);
+
+private Q_SLOTS:
+    void familyClicked();
+
+private:
+    void addFamilies(int y);
+    void addPalette(int y);
+
+    Panel* m_panel;
+};
+
+#endif

@@ -1,0 +1,97 @@
+#include "titlestrip.h"
+
+#include "devicesign.h"
+#include "gallerywidgets.h"
+
+#include <QPalette>
+#include <QTime>
+#include <QTimer>
+
+namespace
+{
+
+const int textLeft = 18;
+const int gap = 10;
+const int timeWidth = 58;
+const int tickInterval = 500;
+
+const CWidgetStyle::DeviceType devices[] = {
+    CWidgetStyle::DeviceStorage,
+    CWidgetStyle::DeviceMouse,
+    CWidgetStyle::DeviceKeyboard,
+};
+
+} // namespace
+
+TitleStrip::TitleStrip(QWidget* parent) : CTopTitleArea(parent)
+{
+    setSize(CWidgetStyle::getSize(CWidgetStyle::TopBarSize));
+    setBackground(QPixmap(QLatin1String(":/images/UTIL_TB_BKGROUND.png")));
+    QPalette light = palette();
+    light.setColor(QPalette::WindowText, Qt::white);
+    setPalette(light);
+    setTitle(QLatin1String("Quorlin front panel"));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CTopTitleArea")));
+
+    m_screenTitle = plainLabel(QString(), this);
+    m_screenTitle->setTextColor(CWidgetStyle::getColor(CWidgetStyle::Color5));
+    m_screenTitle->setGeometry(textLeft, 21, 300, 20);
+    m_screenTitle->setHeight(20);
+
+    m_time = plainLabel(QString(), this);
+    m_time->setTextColor(Qt::white);
+    m_time->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    int right = width() - gap;
+    right -= timeWidth;
+    m_time->setGeometry(right, 8, timeWidth, 28);
+    right -= gap;
+
+    addSign(CWidgetStyle::getWIFISignalStatus(CWidgetStyle::Signal75), &right);
+    addSign(CWidgetStyle::getLockStatus(CWidgetStyle::Locked), &right);
+    addDeviceSigns(&right);
+
+    QTimer* timer = new QTimer(this);
+    connect(timer, SIGNAL(timeout()), this, SLOT(showTime()));
+    timer->start(tickInterval);
+    showTime();
+}
+
+void TitleStrip::setScreenTitle(const QString& title)
+{
+    m_screenTitle->setText(title);
+}
+
+/// Shows \a time from now on, so that pictures of the panel are the same at any time.
+void TitleStrip::freezeTime(const QString& time)
+{
+    m_frozenTime = time;
+    showTime();
+}
+
+void TitleStrip::showTime()
+{
+    m_time->setText(m_frozenTime.isEmpty() ? QTime::currentTime().toString(QLatin1String("HH:mm"))
+                                           : m_frozenTime);
+    Q_EMIT tick();
+}
+
+void TitleStrip::addSign(const QPixmap& pixmap, int* right)
+{
+    CWidget* sign = new CWidget(this);
+    sign->setSize(pixmap.size());
+    sign->setBackground(pixmap);
+    *right -= pixmap.width();
+    sign->move(*right, (height() - pixmap.height()) / 2);
+    *right -= gap;
+}
+
+void TitleStrip::addDeviceSigns(int* right)
+{
+    for (size_t i = 0; i < sizeof devices / sizeof devices[0]; ++i) {
+        DeviceSign* sign = new DeviceSign(devices[i], this);
+        *right -= sign->width();
+        sign->move(*right, (height() - sign->height()) / 2);
+        *right -= gap;
+        connect(this, SIGNAL(tick()), sign, SLOT(refresh()));
+    }
+}

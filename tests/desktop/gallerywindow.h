@@ -1,0 +1,43 @@
+#ifndef CWIDGET_TESTS_DESKTOP_GALLERYWINDOW_H
+#define CWIDGET_TESTS_DESKTOP_GALLERYWINDOW_H
+
+#include "support/testing.h"
+
+#include <QProcess>
+
+/// The gallery as a process of its own, on the X server of the test, and its window as a person
+/// sees it. All points are the panel's.
+class GalleryWindow
+{
+public:
+    explicit GalleryWindow(const QStringList& arguments = QStringList());
+    ~GalleryWindow();
+
+    bool isRunning();
+    int exitCode();
+
+    /// Waits until the window is on the screen.
+    bool waitUntilShown();
+
+    void press(const QPoint& point);
+    void release();
+    void click(const QPoint& point);
+    void close();
+
+    /// The pixels of the window on the screen.
+    QImage grab() const;
+
+    /// Waits until the part \a rect of the window looks like that of \a expected. Empty then; else
+    /// what differs.
+    QString waitFor(const QImage& expected, const QRect& rect) const;
+
+    /// The pictures that the gallery itself draws, by the names of the screens.
+    static QImage shot(const QString& name);
+
+private:
+    QString m_id;
+    QPoint m_origin;
+    QProcess m_process;
+};
+
+#endif

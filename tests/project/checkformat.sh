@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# Checks that every source stands as .clang-format wants it. Run in the project's root.
+set -euo pipefail
+clang_format=${1:?the clang-format to use}
+mapfile -t sources < <(find style widgets pages parm keypad hotplug examples designer tests \
+    benchmarks fuzz resources/artwork -name '*.h' -o -name '*.cpp' | sort)
+if [ ${#sources[@]} -lt 30 ]; then
+    echo "only ${#sources[@]} sources found: this is not the project's root" >&2
+    exit 1
+fi
+"$clang_format" --dry-run --Werror "${sources[@]}"
+echo "${#sources[@]} sources checked"

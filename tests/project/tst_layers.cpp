@@ -1,0 +1,186 @@
+#include "support/testing.h"
+
+#include <QDir>
+#include <QMap>
+#include <QSet>
+
+namespace
+{
+
+// What the files of a folder may include of the library, besides files of their own folder.
+const struct Layer {
+    const char* folder;
+    const char* below;
+} layers[] = {
+    // clang-format off
+    {"style",   ""},
+    {"widgets", "style"},
+    {"keypad",  "style widgets"},
+    {"pages",   "style widgets"},
+    {"parm",    "style widgets keypad pages"},
+    {"hotplug", "style"},
+    // clang-format on
+};
+
+// The one upward look that is allowed: a line edit opens a keypad.
+const char lineEdit[] = "widgets/lineedit";
+const char factoryHeader[] = "keypad/keypadfactory.h";
+
+QString root()
+{
+    return QLatin1String(CWIDGET_SOURCE_DIR "/");
+}
+
+QStringList sourcesIn(const QString& folder)
+{
+    QStringList paths;
+    const QDir dir(root() + folder);
+    const QStringList names =
+        dir.entryList(QStringList() << QLatin1String("*.h") << QLatin1String("*.cpp"), QDir::Files);
+    for (int i = 0; i < names.size(); ++i)
+        paths.append(folder + QLatin1Char('/') + names.at(i));
+    return paths;
+}
+
+QStringList linesOf(const QString& path)
+{
+    return QString::fromUtf8(testing::contentOf(root() + path)).split(QLatin1Char('\n'));
+}
+
+/// What a file includes in quotes.
+QStringList includesOf(const QString& path)
+{
+    QStringList includes;
+    const QStringList lines = linesOf(path);
+    for (int i = 0; i < lines.size(); ++i) {
+        if (lines.at(i).startsWith(QLatin1String("#include \"")))
+            includes.append(lines.at(i).section(QLatin1Char('"'), 1, 1));
+    }
+    return includes;
+}
+
+bool allowed(const QString& path, const QString& include)
+{
+    const QString from = path.section(QLatin1Char('/'), 0, 0);
+    const QString to = include.section(QLatin1Char('/'), 0, 0);
+    if (from == to)
+        return true;
+    if (path.startsWith(QLatin1String(lineEdit)) && include == QLatin1String(factoryHeader))
+        return true;
+    for (size_t i = 0; i < sizeof layers / sizeof layers[0]; ++i) {
+        if (from == QLatin1String(layers[i].folder))
+            return QString::fromLatin1(layers[i].below).split(QLatin1Char(' ')).contains(to);
+    }
+    return false;
+}
+
+QStringList librarySources()
+{
+    QStringList sources;
+    for (size_t i = 0; i < sizeof layers / sizeof layers[0]; ++i)
+        sources += sourcesIn(QLatin1String(layers[i].folder));
+    return sources;
+}
+
+/// Every source below \a folder.
+QStringList sourcesBelow(const QString& folder)
+{
+    QStringList sources = sourcesIn(folder);
+    const QStringList folders = QDir(root() + folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (int i = 0; i < folders.size(); ++i)
+        sources += sourcesBelow(folder + QLatin1Char('/') + folders.at(i));
+    return sources;
+}
+
+} // namespace
+
+class tst_layers : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void includesPointDownwards();
+    void keypadFactoryHeaderIncludesNoWidget();
+    void versionOfQtIsAskedInTheCompatibilityHeadersOnly();
+    void sizesOfSources();
+    void headersAreGuarded();
+};
+
+void tst_layers::includesPointDownwards()
+{
+    const QStringList sources = librarySources();
+    QVERIFY(sources.size() > 20);
+    int seen = 0;
+    for (int i = 0; i < sources.size(); ++i) {
+        const QStringList includes = includesOf(sources.at(i));
+        for (int j = 0; j < includes.size(); ++j) {
+            ++seen;
+            const QString text = sources.at(i) + QLatin1String(" includes ") + includes.at(j);
+            QVERIFY2(QFile::exists(root() + includes.at(j)), qPrintable(text));
+            QVERIFY2(allowed(sources.at(i), includes.at(j)), qPrintable(text));
+        }
+    }
+    QVERIFY(seen > 40);
+    // The check itself can fail.
+    QVERIFY(!allowed(QLatin1String("style/theme.cpp"), QLatin1String("widgets/widget.h")));
+    QVERIFY(!allowed(QLatin1String("widgets/label.cpp"), QLatin1String("keypad/keypadfactory.h")));
+    QVERIFY(!allowed(QLatin1String("hotplug/devicewatcher.h"), QLatin1String("widgets/widget.h")));
+}
+
+void tst_layers::keypadFactoryHeaderIncludesNoWidget()
+{
+    const QString header = QLatin1String(factoryHeader);
+    if (!QFile::exists(root() + header))
+        CWIDGET_SKIP("the keypads are not built yet");
+    const QStringList includes = includesOf(header);
+    for (int i = 0; i < includes.size(); ++i)
+        QVERIFY2(includes.at(i).startsWith(QLatin1String("style/")), qPrintable(includes.at(i)));
+}
+
+void tst_layers::versionOfQtIsAskedInTheCompatibilityHeadersOnly()
+{
+    QStringList sources = librarySources();
+    sources += sourcesBelow(QLatin1String("tests"));
+    sources += sourcesBelow(QLatin1String("examples"));
+    sources += sourcesBelow(QLatin1String("benchmarks"));
+    sources += sourcesBelow(QLatin1String("resources"));
+    const QByteArray word = QByteArray("QT_") + "VERSION";
+    int asking = 0;
+    for (int i = 0; i < sources.size(); ++i) {
+        if (!testing::contentOf(root() + sources.at(i)).contains(word))
+            continue;
+        ++asking;
+        QVERIFY2(sources.at(i) == QLatin1String("style/qtcompat.h") ||
+                     sources.at(i) == QLatin1String("tests/testcompat.h"),
+                 qPrintable(sources.at(i)));
+    }
+    QCOMPARE(asking, 2);
+}
+
+void tst_layers::sizesOfSources()
+{
+    const QStringList sources = librarySources();
+    for (int i = 0; i < sources.size(); ++i) {
+        const int limit = sources.at(i).endsWith(QLatin1String(".h")) ? 250 : 500;
+        const int lines = linesOf(sources.at(i)).size() - 1;
+        const QString text = QString::fromLatin1("%1 has %2 lines").arg(sources.at(i)).arg(lines);
+        QVERIFY2(lines <= limit, qPrintable(text));
+    }
+}
+
+void tst_layers::headersAreGuarded()
+{
+    QSet<QString> guards;
+    const QStringList sources = librarySources();
+    for (int i = 0; i < sources.size(); ++i) {
+        if (!sources.at(i).endsWith(QLatin1String(".h")))
+            continue;
+        const QString first = linesOf(sources.at(i)).at(0);
+        QVERIFY2(first.startsWith(QLatin1String("#ifndef CWIDGET_")), qPrintable(sources.at(i)));
+        QVERIFY2(!guards.contains(first), qPrintable(sources.at(i)));
+        guards.insert(first);
+    }
+}
+
+QTEST_MAIN(tst_layers)
+#include "tst_layers.moc"
