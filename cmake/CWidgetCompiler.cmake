@@ -9,7 +9,8 @@ endif()
 
 if(CWIDGET_SANITIZE)
   set(flags -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
-  target_compile_options(cwidget_compiler INTERFACE ${flags})
+  # Little optimisation and line numbers only: the tests are many, and built once to be run once.
+  target_compile_options(cwidget_compiler INTERFACE ${flags} -O1 -g1)
   target_link_options(cwidget_compiler INTERFACE ${flags})
 endif()
 

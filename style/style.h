@@ -9,7 +9,7 @@
 /// How one part of a widget looks: a plain value, copied freely.
 struct Style {
     /// The part that an entry styles. Widgets of a single part act on FieldAll only.
-    enum Field {
+    enum Field : int {
         FieldName = 0,  ///< the name part of a parameter field
         FieldValue = 1, ///< the value part of a parameter field
         FieldAll = 2    ///< all of the widget

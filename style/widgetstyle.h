@@ -15,17 +15,17 @@ class QDomElement;
 /// compiled-in colours, fonts and sizes, and what is known about the attached input devices.
 ///
 /// All of it is static; there is never an object of this class. Everything is meant for the GUI
-/// thread, except that the device registry may be written and read from any.
+/// thread, except that the device registry may be written and read from any. Applications may pass
+/// any number as a status or a code; the enumerations are ints so that each has its answer.
 class CWIDGET_EXPORT CWidgetStyle : public QObject
 {
     Q_OBJECT
-    Q_ENUMS(DeviceType PageBarType ColorCode FontType SizeCode)
 
 public:
     // clang-format off
 
     /// Pictures of the push button, see getButtonStatus(). Mind the order of green and orange.
-    enum ButtonStatus {
+    enum ButtonStatus : int {
         GrayReleased = 0,   GrayPressed = 1,     GraySelected = 2,
         GreenPressed = 3,   GreenReleased = 4,   GreenSelected = 5,
         OrangePressed = 6,  OrangeReleased = 7,  OrangeSelected = 8,
@@ -34,7 +34,7 @@ public:
     };
 
     /// Pictures of the keys of the general, hexadecimal and numeric keypads.
-    enum KeyStatus {
+    enum KeyStatus : int {
         GenKeyPressed = 0,        GenKeyReleased = 1,        GenKeySelected = 2,
         GenCapsPressed = 3,       GenCapsReleased = 4,       GenCapsSelected = 5,
         GenShiftPressed = 6,      GenShiftReleased = 7,      GenShiftSelected = 8,
@@ -57,63 +57,63 @@ public:
     };
 
     /// The six looks of a lamp, from left to right in its strip.
-    enum LEDStatus {
+    enum LEDStatus : int {
         LedState0 = 0, LedState1 = 1, LedState2 = 2, LedState3 = 3, LedState4 = 4, LedState5 = 5
     };
 
     /// Sizes of a lamp: 19 x 19 pixels (both large ones) or 16 x 16.
-    enum IconMode { LargeIcon = 0, LargeIconAlt = 1, SmallIcon = 2 };
+    enum IconMode : int { LargeIcon = 0, LargeIconAlt = 1, SmallIcon = 2 };
 
     /// Pictures of the page bar's arrows. There is no picture for the selected ones.
-    enum PageSwitchStatus {
+    enum PageSwitchStatus : int {
         PrevPressed = 0, PrevReleased = 1,  PrevSelected = 2,
         NextPressed = 3, NextReleased = 4,  NextSelected = 5,
         UpPressed = 6,   UpReleased = 7,    UpSelected = 8,
         DownPressed = 9, DownReleased = 10, DownSelected = 11
     };
 
-    enum LockStatus { Locked = 0 };
+    enum LockStatus : int { Locked = 0 };
 
     /// Tiles of the application grid.
-    enum AppStatus {
+    enum AppStatus : int {
         App0 = 0,   App1 = 1,   App2 = 2,   App3 = 3,   App4 = 4,   App5 = 5,
         App6 = 6,   App7 = 7,   App8 = 8,   App9 = 9,   App10 = 10, App11 = 11,
         App12 = 12, App13 = 13, App14 = 14, App15 = 15, App16 = 16, App17 = 17,
         App18 = 18, App19 = 19, App20 = 20, App21 = 21, App22 = 22, App23 = 23
     };
 
-    enum CloseStatus { ClosePressed = 0, CloseReleased = 1, CloseSelected = 2 };
+    enum CloseStatus : int { ClosePressed = 0, CloseReleased = 1, CloseSelected = 2 };
 
     /// Grounds of a menu entry.
-    enum EntryStatus { EntryFirst = 0, EntrySecond = 1, EntryThird = 2 };
+    enum EntryStatus : int { EntryFirst = 0, EntrySecond = 1, EntryThird = 2 };
 
     /// Strength of the wireless signal in percent.
-    enum WIFISignalStatus { Signal0 = 0, Signal25 = 1, Signal50 = 2, Signal75 = 3, Signal100 = 4 };
+    enum WIFISignalStatus : int { Signal0 = 0, Signal25 = 1, Signal50 = 2, Signal75 = 3, Signal100 = 4 };
 
-    enum ZoomStatus {
+    enum ZoomStatus : int {
         ZoomInPressed = 0,  ZoomInReleased = 1,  ZoomInSelected = 2,
         ZoomOutPressed = 3, ZoomOutReleased = 4, ZoomOutSelected = 5
     };
 
     /// Arrows for applications; the letters count the pictures of a strip from the left.
-    enum ArrowStatus {
+    enum ArrowStatus : int {
         SmallArrowC = 0, SmallArrowB = 1, SmallArrowA = 2, SmallArrowD = 3,
         WhiteArrowB = 4, WhiteArrowA = 5
     };
 
-    enum SlidStatus {
+    enum SlidStatus : int {
         SlidPrevPressed = 0, SlidPrevReleased = 1, SlidPrevSelected = 2,
         SlidNextPressed = 3, SlidNextReleased = 4, SlidNextSelected = 5
     };
 
     /// Orientation of a page bar.
-    enum PageBarType { HorizontalPageBar = 0, VerticalPageBar = 1 };
+    enum PageBarType : int { HorizontalPageBar = 0, VerticalPageBar = 1 };
 
     /// Kinds of devices in the registry.
-    enum DeviceType { DeviceKeyboard = 1, DeviceMouse = 2, DeviceStorage = 3 };
+    enum DeviceType : int { DeviceKeyboard = 1, DeviceMouse = 2, DeviceStorage = 3 };
 
     /// Roles of the palette. Some share a colour today and are distinct all the same.
-    enum ColorCode {
+    enum ColorCode : int {
         PanelGroundColor = 0,  ControlGroundColor = 1, ContainerGroundColor = 2,
         Color3 = 3,            Color4 = 4,             Color5 = 5,
         NameGroundColor = 6,   Color7 = 7,             Color8 = 8,
@@ -126,10 +126,10 @@ public:
         Color27 = 27,          Color28 = 28
     };
 
-    enum FontType { Font0 = 0, Font1 = 1, Font2 = 2, Font3 = 3, Font4 = 4, Font5 = 5, Font6 = 6 };
+    enum FontType : int { Font0 = 0, Font1 = 1, Font2 = 2, Font3 = 3, Font4 = 4, Font5 = 5, Font6 = 6 };
 
     /// Areas that the 800 x 600 screen is divided into.
-    enum SizeCode {
+    enum SizeCode : int {
         ScreenSize = 0,            TopBarSize = 1,             BottomBarSize = 2,
         LeftColumnSize = 3,        RightColumnSize = 4,        BetweenBarsSize = 5,
         BesideColumnSize = 6,      BelowTopBarSize = 7,        BetweenColumnsSize = 8,

@@ -12,7 +12,7 @@ class CWIDGET_EXPORT CLabel : public CWidget
     Q_OBJECT
 
 public:
-    enum WrapMode {
+    enum WrapMode : int {
         NoWrap = 0,   ///< one line, placed by the alignment
         WordWrap = 1, ///< breaks before a word that does not fit
         CharWrap = 2  ///< breaks before a character that does not fit

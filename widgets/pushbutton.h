@@ -17,14 +17,14 @@ class CWIDGET_EXPORT CPushButton : public QPushButton
     Q_OBJECT
 
 public:
-    enum ButtonState {
+    enum ButtonState : int {
         Pressed = 0,
         Released = 1,
         Selected = 2
     };
 
     /// What a state brings up: a QPixmap, or a text colour as a QColor or by its name.
-    enum ExtraAttr {
+    enum ExtraAttr : int {
         PressedPixmap = 1,
         ReleasedPixmap = 2,
         SelectedPixmap = 3,
@@ -33,7 +33,7 @@ public:
         SelectedTextColor = 6
     };
 
-    enum ButtonStyle {
+    enum ButtonStyle : int {
         DefaultStyle = 0, ///< grey
         GreenStyle = 1,
         OrangeStyle = 2,

@@ -350,10 +350,10 @@ void tst_pushbutton::buttonDeletedByItsOwnSignals()
         QPointer<CPushButton> button = new CPushButton;
         Deleter deleter(button);
         QVERIFY(connect(button, signals_[i], &deleter, SLOT(deleteButton())));
-        QMouseEvent press(QEvent::MouseButtonPress, QPoint(5, 5), Qt::LeftButton, Qt::LeftButton,
-                          Qt::NoModifier);
-        QMouseEvent release(QEvent::MouseButtonRelease, QPoint(5, 5), Qt::LeftButton, Qt::NoButton,
-                            Qt::NoModifier);
+        QMouseEvent press(QEvent::MouseButtonPress, QPoint(5, 5), QPoint(5, 5), Qt::LeftButton,
+                          Qt::LeftButton, Qt::NoModifier);
+        QMouseEvent release(QEvent::MouseButtonRelease, QPoint(5, 5), QPoint(5, 5), Qt::LeftButton,
+                            Qt::NoButton, Qt::NoModifier);
         QApplication::sendEvent(button, &press);
         if (button)
             QApplication::sendEvent(button, &release);
