@@ -4,7 +4,6 @@
 #   ./test.sh                  Qt 5
 #   ./test.sh --qt 6           another generation of Qt
 #   ./test.sh --sanitize       with the Address, UndefinedBehavior and Leak sanitizers
-#   ./test.sh --fuzz SECONDS   the fuzzers, each for so long
 #   ./test.sh --bench          the benchmarks
 #
 # What follows -- goes to ctest.
@@ -14,16 +13,14 @@ source tools/packages.sh
 
 qt=5
 sanitize=OFF
-fuzz=
 bench=
 while [ $# -gt 0 ]; do
     case $1 in
         --qt) qt=${2:?--qt needs 5 or 6}; shift 2 ;;
         --sanitize) sanitize=ON; shift ;;
-        --fuzz) fuzz=${2:?--fuzz needs a number of seconds}; shift 2 ;;
         --bench) bench=1; shift ;;
         --) shift; break ;;
-        *) sed -n '2,10s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
+        *) sed -n '2,9s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
     esac
 done
 
@@ -41,13 +38,11 @@ else
     options+=(-DCMAKE_BUILD_TYPE=Release)
 fi
 if [ -n "$bench" ]; then options+=(-DCWIDGET_BUILD_BENCHMARKS=ON); fi
-if [ -n "$fuzz" ]; then options+=(-DCWIDGET_BUILD_FUZZERS=ON); fi
 
 cmake -S . -B "$build" -G Ninja "${options[@]}"
 cmake --build "$build"
 
 if [ -n "$bench" ]; then exec cmake --build "$build" --target bench; fi
-if [ -n "$fuzz" ]; then CWIDGET_FUZZ_SECONDS=$fuzz exec cmake --build "$build" --target fuzz; fi
 
 cd "$build"
 # shellcheck disable=SC2046
