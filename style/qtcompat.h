@@ -57,17 +57,13 @@ inline QPoint eventPos(const QMouseEvent* event)
 #endif
 }
 
-/// Starts \a commandLine, a program and its arguments separated by blanks, open for reading and
-/// writing.
+/// Starts \a commandLine, a program and its arguments separated by single blanks, open for reading
+/// and writing. Qt 6 dropped the overload for command lines.
 inline void startCommand(QProcess& process, const QString& commandLine)
 {
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    process.startCommand(commandLine);
-#else
     QStringList words = commandLine.split(QLatin1Char(' '));
     const QString program = words.takeFirst();
-    process.start(program, words);
-#endif
+    process.start(program, words, QIODevice::ReadWrite);
 }
 
 /// The signal of QComboBox that tells the new current text, for string-based connections. Qt 6

@@ -1,0 +1,133 @@
+#include "hotplug/hotplugwatcher.h"
+
+#include "hotplug/devicewatcher.h"
+#include "style/qtcompat.h"
+#include "style/widgetstyle.h"
+
+#include <QProcess>
+
+namespace
+{
+
+/// How the listing of the attached devices is searched for one kind of them.
+struct InventoryRow {
+    const char* filterCommand;
+    const char* word;
+    CWidgetStyle::DeviceType type;
+};
+
+// clang-format off
+const InventoryRow inventory[] = {
+    {"grep Keyboard", "Keyboard", CWidgetStyle::DeviceKeyboard},
+    {"grep Mouse",    "Mouse",    CWidgetStyle::DeviceMouse},
+    {"grep Storage",  "Storage",  CWidgetStyle::DeviceStorage},
+};
+// clang-format on
+
+const char listCommand[] = "/usr/bin/lsusb -v";
+const int answerTimeout = 1000; // ms
+
+bool contains(const QString& text, const char* word)
+{
+    return text.indexOf(QLatin1String(word), 0, Qt::CaseInsensitive) >= 0;
+}
+
+bool matches(const QString& text, const char* pattern, Qt::CaseSensitivity sensitivity)
+{
+    const QRegExp expression(QLatin1String(pattern), sensitivity, QRegExp::RegExp);
+    return expression.indexIn(text) >= 0;
+}
+
+/// Whether \a filter, which reads what \a lister writes, finds what \a row looks for. Takes as long
+/// as the filter keeps silent, but no longer than the timeout; both are ended afterwards.
+bool isListed(const InventoryRow& row, QProcess& lister, QProcess& filter)
+{
+    qtcompat::startCommand(lister, QLatin1String(listCommand));
+    qtcompat::startCommand(filter, QLatin1String(row.filterCommand));
+    bool listed = false;
+    if (filter.waitForReadyRead(answerTimeout)) {
+        const QByteArray output = filter.readAllStandardOutput();
+        listed = contains(QString::fromLatin1(output.constData()), row.word); // up to a NUL
+    }
+    lister.close();
+    filter.close();
+    return listed;
+}
+
+/// Notes in the registry that the input device, of which the notification \a dev tells, has come or
+/// gone. The expressions for mouse and storage begin with a quantifier, which is no valid syntax,
+/// so that they never match: only keyboards are followed, and that is wanted.
+void noteInputDevice(const QString& dev, Qt::CaseSensitivity mouseCase, bool available)
+{
+    if (!contains(dev, "SUBSYSTEM=input"))
+        return;
+    if (contains(dev, "Keyboard"))
+        CWidgetStyle::setDeviceAvailable(CWidgetStyle::DeviceKeyboard, available);
+    else if (matches(dev, "*NAME=*Mouse", mouseCase))
+        CWidgetStyle::setDeviceAvailable(CWidgetStyle::DeviceMouse, available);
+    else if (matches(dev, "*NAME=*Storage", Qt::CaseSensitive))
+        CWidgetStyle::setDeviceAvailable(CWidgetStyle::DeviceStorage, available);
+}
+
+} // namespace
+
+/// Takes the inventory, which can block for up to about three seconds, and follows the kernel's
+/// notifications from then on. Start it before the first window is shown.
+CHotplugWatcher::CHotplugWatcher(QObject* parent) : QThread(parent), m_watcher(0)
+{
+    start(QThread::InheritPriority);
+    detectDevice();
+    m_watcher = new QDeviceWatcher(this);
+    m_watcher->appendEventReceiver(this);
+    connect(m_watcher, SIGNAL(deviceAdded(QString)), SLOT(addDevice(QString)),
+            Qt::DirectConnection);
+    connect(m_watcher, SIGNAL(deviceRemoved(QString)), SLOT(removeDevice(QString)),
+            Qt::DirectConnection);
+    connect(m_watcher, SIGNAL(deviceChanged(QString)), SLOT(changeDevice(QString)),
+            Qt::DirectConnection);
+    m_watcher->start();
+}
+
+/// Stops listening and ends the thread. The registry stays as it is.
+CHotplugWatcher::~CHotplugWatcher()
+{
+    if (m_watcher->isRunning())
+        m_watcher->stop();
+    disconnect(this, 0, m_watcher, 0);
+    delete m_watcher;
+    quit();
+    wait(); // a thread object must not go while its thread runs
+}
+
+/// Asks the system's listing tool whether a keyboard, a mouse and USB storage are attached, and
+/// notes the answers in the registry. A kind that is not answered for within a second is noted as
+/// not attached, also where there is no such tool. Needs no object of this class.
+void CHotplugWatcher::detectDevice()
+{
+    QProcess lister;
+    QProcess filter;
+    lister.setStandardOutputProcess(&filter);
+    lister.setStandardErrorFile(QLatin1String("/dev/null")); // nobody reads its complaints
+    for (size_t i = 0; i < sizeof inventory / sizeof inventory[0]; ++i)
+        CWidgetStyle::setDeviceAvailable(inventory[i].type, isListed(inventory[i], lister, filter));
+}
+
+/// Notes the keyboard as attached when the notification \a dev is about an input device and has
+/// the word "keyboard" in it, in any case.
+void CHotplugWatcher::addDevice(const QString& dev)
+{
+    noteInputDevice(dev, Qt::CaseInsensitive, true);
+}
+
+/// Notes the keyboard as not attached, by the same tests as addDevice(). That the expression for
+/// the mouse minds the case here, and not there, is wanted.
+void CHotplugWatcher::removeDevice(const QString& dev)
+{
+    noteInputDevice(dev, Qt::CaseSensitive, false);
+}
+
+/// Does nothing: a change of a device says nothing about whether it is attached.
+void CHotplugWatcher::changeDevice(const QString& dev)
+{
+    Q_UNUSED(dev);
+}

@@ -1,0 +1,31 @@
+#ifndef CWIDGET_HOTPLUG_UEVENT_P_H
+#define CWIDGET_HOTPLUG_UEVENT_P_H
+
+#include "style/global.h"
+
+#include <QByteArray>
+#include <QString>
+
+class QBuffer;
+
+/// What the bytes of a kernel notification mean. Nothing here knows of sockets or watchers.
+namespace uevent
+{
+
+/// The most bytes of a datagram that are looked at; the kernel's own stay well below.
+enum {
+    MaxDatagramSize = 4096
+};
+
+/// What happened, as a word in lower case, and to what: the whole text of the notification.
+struct Notification {
+    QString action;
+    QString device;
+};
+
+CWIDGET_EXPORT QByteArray joinedFields(const QByteArray& datagram, QBuffer* buffer);
+CWIDGET_EXPORT Notification notification(const QByteArray& line);
+
+} // namespace uevent
+
+#endif
