@@ -4,6 +4,7 @@
 #include "style/qtcompat.h"
 #include "style/widgetstyle.h"
 
+#include <QFileInfo>
 #include <QProcess>
 
 namespace
@@ -24,6 +25,7 @@ const InventoryRow inventory[] = {
 };
 // clang-format on
 
+const char listProgram[] = "/usr/bin/lsusb";
 const char listCommand[] = "/usr/bin/lsusb -v";
 const int answerTimeout = 1000; // ms
 
@@ -36,6 +38,14 @@ bool matches(const QString& text, const char* pattern, Qt::CaseSensitivity sensi
 {
     const QRegExp expression(QLatin1String(pattern), sensitivity, QRegExp::RegExp);
     return expression.indexIn(text) >= 0;
+}
+
+/// Whether the listing tool is there. Some versions of Qt lose a descriptor with every program that
+/// they cannot start, so that what is missing is better not started at all.
+bool hasLister()
+{
+    const QFileInfo program((QLatin1String(listProgram)));
+    return program.isFile() && program.isExecutable();
 }
 
 /// Whether \a filter, which reads what \a lister writes, finds what \a row looks for. Takes as long
@@ -108,8 +118,10 @@ void CHotplugWatcher::detectDevice()
     QProcess filter;
     lister.setStandardOutputProcess(&filter);
     lister.setStandardErrorFile(QLatin1String("/dev/null")); // nobody reads its complaints
+    const bool canList = hasLister();
     for (size_t i = 0; i < sizeof inventory / sizeof inventory[0]; ++i)
-        CWidgetStyle::setDeviceAvailable(inventory[i].type, isListed(inventory[i], lister, filter));
+        CWidgetStyle::setDeviceAvailable(inventory[i].type,
+                                         canList && isListed(inventory[i], lister, filter));
 }
 
 /// Notes the keyboard as attached when the notification \a dev is about an input device and has

@@ -2,7 +2,6 @@
 
 #include "hotplug/hotplugtesting.h"
 
-#include <QMutex>
 #include <QThread>
 
 using testing::Receiver;
@@ -99,10 +98,7 @@ public:
     {
         for (int i = 0; i < 2000; ++i) {
             QObject* receiver = new QObject;
-            {
-                QMutexLocker locker(&m_mutex);
-                m_handedOver = receiver;
-            }
+            m_handedOver.fetchAndStoreOrdered(receiver);
             while (handedOver())
                 yieldCurrentThread();
             for (volatile int spin = 0; spin < (i % 50) * 40; spin = spin + 1) {
@@ -113,19 +109,16 @@ public:
 
     QObject* handedOver()
     {
-        QMutexLocker locker(&m_mutex);
-        return m_handedOver;
+        return m_handedOver.fetchAndAddOrdered(0);
     }
 
     void taken()
     {
-        QMutexLocker locker(&m_mutex);
-        m_handedOver = 0;
+        m_handedOver.fetchAndStoreOrdered(0);
     }
 
 private:
-    QMutex m_mutex;
-    QObject* m_handedOver;
+    QAtomicPointer<QObject> m_handedOver;
 };
 
 } // namespace

@@ -38,6 +38,17 @@ bool hasChildProcesses()
     return !(waitpid(-1, 0, WNOHANG) == -1 && errno == ECHILD);
 }
 
+/// The descriptors that this Qt loses when a program cannot be started: 1 with some of Qt 6.
+int lostByAFailedStart()
+{
+    const int before = testing::openDescriptors();
+    QProcess process;
+    process.start(QLatin1String("/nowhere/to/be/found"), QStringList());
+    process.waitForFinished();
+    process.close();
+    return testing::openDescriptors() - before;
+}
+
 } // namespace
 
 class tst_hotplugwatcher_inventory : public QObject
@@ -159,36 +170,39 @@ void tst_hotplugwatcher_inventory::hangingTool()
 void tst_hotplugwatcher_inventory::withoutTool_data()
 {
     QTest::addColumn<QString>("kind");
-    QTest::newRow("none") << "none";
-    QTest::newRow("not executable") << "not executable";
-    QTest::newRow("no program") << "no program";
-    QTest::newRow("folder") << "folder";
+    QTest::addColumn<bool>("looksLikeIt");
+    QTest::newRow("none") << "none" << false;
+    QTest::newRow("not executable") << "not executable" << false;
+    QTest::newRow("no program") << "no program" << true;
+    QTest::newRow("folder") << "folder" << false;
 }
 
 void tst_hotplugwatcher_inventory::withoutTool()
 {
     QFETCH(QString, kind);
+    QFETCH(bool, looksLikeIt);
     const testing::FakeSystem system;
     QVERIFY(system.isMounted());
     const QString path = QLatin1String("/usr/bin/lsusb"); // in the folder that is mounted there
     QVERIFY(!QFile::exists(path));
     if (kind == "folder") {
         QVERIFY(QDir().mkdir(path));
-    } else if (kind != "none") {
-        system.writeLister("echo Keyboard");
+    } else if (kind == "no program") {
+        system.writeLister(QByteArray());
         QFile tool(path);
-        QVERIFY(tool.setPermissions(kind == "no program" ? QFile::ReadOwner | QFile::ExeOwner
-                                                         : QFile::ReadOwner | QFile::WriteOwner));
-        QVERIFY(kind != "no program" ||
-                (tool.open(QIODevice::WriteOnly) && tool.write("\1\2") == 2));
+        QVERIFY(tool.open(QIODevice::WriteOnly) && tool.write("\1\2") == 2);
+    } else if (kind == "not executable") {
+        system.writeLister("echo Keyboard");
+        QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner));
     }
     testing::Messages messages;
+    const int lost = looksLikeIt ? 3 * lostByAFailedStart() : 0;
     const int before = testing::openDescriptors();
     setAll(true);
     CHotplugWatcher::detectDevice();
     QCOMPARE(registry(), QString());
     QVERIFY(!hasChildProcesses());
-    QCOMPARE(testing::openDescriptors(), before);
+    QCOMPARE(testing::openDescriptors(), before + lost);
     QCOMPARE(messages.warnings(), QStringList());
     QDir().rmdir(path);
 }
@@ -203,13 +217,14 @@ void tst_hotplugwatcher_inventory::withoutGrep()
     const testing::TemporaryFolder nothing;
     qputenv("PATH", nothing.path().toLocal8Bit());
     testing::Messages messages;
+    const int lost = 3 * lostByAFailedStart();
     const int before = testing::openDescriptors();
     setAll(true);
     CHotplugWatcher::detectDevice();
     qputenv("PATH", path);
     QCOMPARE(registry(), QString());
     QVERIFY(!hasChildProcesses());
-    QCOMPARE(testing::openDescriptors(), before);
+    QCOMPARE(testing::openDescriptors(), before + lost);
     QCOMPARE(messages.warnings(), QStringList());
 }
 
