@@ -258,7 +258,7 @@ void tst_hotplugwatcher::watcherIsAChildAndRuns()
     CHotplugWatcher watcher;
     const QList<QDeviceWatcher*> children = watcher.findChildren<QDeviceWatcher*>();
     QCOMPARE(children.size(), 1);
-    QCOMPARE(children.at(0)->parent(), &watcher);
+    QCOMPARE(children.at(0)->parent(), static_cast<QObject*>(&watcher));
     QCOMPARE(children.at(0)->thread(), QThread::currentThread());
     QVERIFY(children.at(0)->isRunning());
     QCOMPARE(testing::ueventSockets().size(), 1);

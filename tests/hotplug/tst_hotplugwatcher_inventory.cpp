@@ -3,8 +3,10 @@
 #include "hotplug/fakesystem.h"
 #include "hotplug/hotplugtesting.h"
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 
 #include <cerrno>
 
