@@ -5,13 +5,23 @@
 // file of the library asks for the version of Qt.
 
 #include <QColor>
+#include <QComboBox>
 #include <QFontMetrics>
 #include <QMouseEvent>
 #include <QPoint>
 #include <QProcess>
+#include <QRect>
 #include <QRegExp> // Qt 6 has it in its Core5Compat module
 #include <QString>
 #include <QStringList>
+
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+#include <QGuiApplication>
+#include <QScreen>
+#else
+#include <QApplication>
+#include <QDesktopWidget>
+#endif
 
 namespace qtcompat
 {
@@ -66,14 +76,33 @@ inline void startCommand(QProcess& process, const QString& commandLine)
     process.start(program, words, QIODevice::ReadWrite);
 }
 
-/// The signal of QComboBox that tells the new current text, for string-based connections. Qt 6
-/// dropped the overload for texts.
-inline const char* comboCurrentTextSignal()
+/// The area of the primary screen; null when there is no screen.
+inline QRect primaryScreenGeometry()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? screen->geometry() : QRect();
+#else
+    return QApplication::desktop()->screenGeometry(QApplication::desktop()->primaryScreen());
+#endif
+}
+
+/// Has \a box tell its slot \a textSlot the text of the row whenever the current row changes.
+///
+/// Qt 6 dropped the signal that says just that. There the number of the new row is told to \a
+/// rowSlot and, after the other receivers of the number, the text to \a rowTextSlot. The signal of
+/// the text comes for a renamed row as well; the two slots can tell these apart.
+inline void connectComboRowText(QComboBox* box, const char* textSlot, const char* rowSlot,
+                                const char* rowTextSlot)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    return SIGNAL(currentTextChanged(QString));
+    Q_UNUSED(textSlot);
+    QObject::connect(box, SIGNAL(currentIndexChanged(int)), box, rowSlot);
+    QObject::connect(box, SIGNAL(currentTextChanged(QString)), box, rowTextSlot);
 #else
-    return SIGNAL(currentIndexChanged(QString));
+    Q_UNUSED(rowSlot);
+    Q_UNUSED(rowTextSlot);
+    QObject::connect(box, SIGNAL(currentIndexChanged(QString)), box, textSlot);
 #endif
 }
 
