@@ -1,0 +1,258 @@
+#include "pages/pagelistwidgetitemarea.h"
+
+#include "pages/pagelistwidgetitem.h"
+#include "style/qtcompat.h"
+#include "style/widgetstyle.h"
+
+#include <QMouseEvent>
+#include <QPointer>
+#include <QSet>
+#include <QVBoxLayout>
+
+namespace
+{
+
+const int defaultMaxVisibleRows = 5;
+const int rowHeight = 28;
+const int rowMargins = 4; // left and right of a row together
+
+} // namespace
+
+/// An area without rows, white with a thin black border, in the font of the style file's entry
+/// "CComboBox".
+CPageListWidgetItemArea::CPageListWidgetItemArea(QWidget* parent)
+    : CWidget(parent),
+      m_currentPage(0),
+      m_currentIndex(0),
+      m_maxVisibleRows(defaultMaxVisibleRows),
+      m_layout(new QVBoxLayout(this)),
+      m_pressedItem(0),
+      m_releasedItem(0),
+      m_hoveredItem(0)
+{
+    m_layout->setContentsMargins(0, 2, 0, 1);
+    m_layout->setSpacing(1);
+    m_layout->setAlignment(Qt::AlignCenter);
+    m_layout->addStretch();
+    setBackgroundColor(Qt::white);
+    setBorderColor(Qt::black);
+    setBorderWidth(1);
+    setMouseTracking(true);
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), 0));
+    setMaxVisibleRows(defaultMaxVisibleRows);
+}
+
+CPageListWidgetItemArea::~CPageListWidgetItemArea()
+{
+}
+
+/// Appends a row for each of \a texts; their indexes continue after the rows that there are. They
+/// take no part in paging until setVisibleItems() says so. The area owns the rows.
+void CPageListWidgetItemArea::addItems(const QStringList& texts)
+{
+    pauseLayout();
+    for (int i = 0; i < texts.size(); ++i)
+        addItem(texts.at(i));
+    resumeLayout();
+}
+
+void CPageListWidgetItemArea::addItem(const QString& text)
+{
+    CPageListWidgetItem* item = new CPageListWidgetItem(text, this);
+    item->setIndex(m_items.size());
+    m_items.append(item);
+    item->setSize(rowSize());
+    item->hide();
+    item->setActive(false);
+    m_layout->insertWidget(m_layout->count() - 1, item); // before the stretch
+    item->installEventFilter(this);
+}
+
+/// Deletes all rows. Page and entry are the first ones again; the text of the last touched entry
+/// stays.
+void CPageListWidgetItemArea::clear()
+{
+    // Qt may deliver a move of the mouse to the area while a row is deleted: no row is known then.
+    QList<CPageListWidgetItem*> items;
+    items.swap(m_items);
+    m_visibleItems.clear();
+    m_pressedItem = 0;
+    m_releasedItem = 0;
+    m_hoveredItem = 0;
+    m_currentIndex = 0;
+    m_currentPage = 0;
+    for (int i = 0; i < items.size(); ++i) {
+        items.at(i)->removeEventFilter(this);
+        delete items.at(i);
+    }
+}
+
+/// Lets the rows with the given \a indexes take part in paging, in the order in which they were
+/// added, and hides all others. Where the current page does not exist any more all of them are
+/// shown, wanted so.
+void CPageListWidgetItemArea::setVisibleItems(const QList<int>& indexes)
+{
+    QSet<int> offered;
+    for (int i = 0; i < indexes.size(); ++i)
+        offered.insert(indexes.at(i));
+    pauseLayout();
+    m_visibleItems.clear();
+    for (int i = 0; i < m_items.size(); ++i) {
+        CPageListWidgetItem* item = m_items.at(i);
+        item->setActive(offered.contains(item->index()));
+        if (item->isActive())
+            m_visibleItems.append(item);
+    }
+    if (!hasCurrentPage())
+        showAllVisibleItems();
+    resumeLayout();
+    updateStatus();
+}
+
+/// The index of the current entry in the owner's list of texts, 0 by default.
+int CPageListWidgetItemArea::currentIndex() const
+{
+    return m_currentIndex;
+}
+
+/// Sets the index of the current entry, which is marked if it is on screen. The page stays.
+void CPageListWidgetItemArea::setCurrentIndex(int index)
+{
+    m_currentIndex = index;
+    updateStatus();
+}
+
+/// The text of the entry that was touched last; empty at first.
+QString CPageListWidgetItemArea::currentText() const
+{
+    return m_currentText;
+}
+
+/// Sets how many rows a page has, 5 by default.
+void CPageListWidgetItemArea::setMaxVisibleRows(int rows)
+{
+    m_maxVisibleRows = rows;
+    updateStatus();
+}
+
+/// Shows page \a page, from 0. A page that does not exist leaves the rows as they are.
+void CPageListWidgetItemArea::setCurrentPage(int page)
+{
+    m_currentPage = page;
+    updateStatus();
+}
+
+/// Shows the rows of the current page, hides those of the other pages, and marks the row of the
+/// current entry if it is on screen. Does nothing when the current page does not exist.
+void CPageListWidgetItemArea::updateStatus()
+{
+    if (!hasCurrentPage())
+        return;
+    pauseLayout();
+    showCurrentPage();
+    resumeLayout();
+    for (int i = 0; i < m_visibleItems.size(); ++i) {
+        CPageListWidgetItem* item = m_visibleItems.at(i);
+        item->setSelect(item->index() == m_currentIndex && item->isVisible());
+    }
+}
+
+bool CPageListWidgetItemArea::hasCurrentPage() const
+{
+    const qint64 start = static_cast<qint64>(m_currentPage) * m_maxVisibleRows;
+    return start >= 0 && start < m_visibleItems.size();
+}
+
+void CPageListWidgetItemArea::showCurrentPage()
+{
+    const int start = m_currentPage * m_maxVisibleRows;
+    const qint64 end = static_cast<qint64>(start) + m_maxVisibleRows;
+    for (int i = 0; i < m_visibleItems.size(); ++i) {
+        CPageListWidgetItem* item = m_visibleItems.at(i);
+        if (item->isActive())
+            item->setVisible(start <= i && i < end);
+    }
+}
+
+void CPageListWidgetItemArea::showAllVisibleItems()
+{
+    for (int i = 0; i < m_visibleItems.size(); ++i)
+        m_visibleItems.at(i)->setVisible(true);
+}
+
+/// Until resumeLayout(), rows come and go without a layout of all rows for each of them.
+void CPageListWidgetItemArea::pauseLayout()
+{
+    m_layout->setEnabled(false);
+}
+
+void CPageListWidgetItemArea::resumeLayout()
+{
+    m_layout->setEnabled(true);
+    if (isVisible())
+        m_layout->activate();
+}
+
+/// Fixes the size of the area, and with it that of all rows, in pixels.
+void CPageListWidgetItemArea::setSize(int width, int height)
+{
+    CWidget::setSize(width, height);
+    for (int i = 0; i < m_items.size(); ++i)
+        m_items.at(i)->setSize(rowSize());
+}
+
+QSize CPageListWidgetItemArea::rowSize() const
+{
+    return QSize(qMax(0, width() - rowMargins), rowHeight);
+}
+
+void CPageListWidgetItemArea::mousePressEvent(QMouseEvent* event)
+{
+    CWidget::mousePressEvent(event);
+    m_releasedItem = 0;
+    m_pressedItem = itemAt(qtcompat::eventPos(event));
+}
+
+/// A row is chosen where the finger went down and is lifted on that same row.
+void CPageListWidgetItemArea::mouseReleaseEvent(QMouseEvent* event)
+{
+    CWidget::mouseReleaseEvent(event);
+    m_releasedItem = itemAt(qtcompat::eventPos(event));
+    CPageListWidgetItem* chosen = m_releasedItem == m_pressedItem ? m_releasedItem : 0;
+    m_pressedItem = 0;
+    m_releasedItem = 0;
+    if (!chosen)
+        return;
+    event->accept(); // Qt must not pass it on to parents that a slot deleted
+    choose(chosen);
+}
+
+/// The row that was marked before keeps its mark until the next updateStatus(), wanted so.
+void CPageListWidgetItemArea::choose(CPageListWidgetItem* item)
+{
+    item->setSelect(true);
+    const QString text = item->text();
+    const int index = item->index();
+    m_currentText = text;
+    m_currentIndex = index;
+    const QPointer<CPageListWidgetItemArea> self(this); // a slot may delete the area or its rows
+    Q_EMIT currentItemChanged(text);
+    if (self)
+        Q_EMIT currentItemChanged(index);
+}
+
+void CPageListWidgetItemArea::mouseMoveEvent(QMouseEvent* event)
+{
+    CWidget::mouseMoveEvent(event);
+    if (m_hoveredItem)
+        m_hoveredItem->setHoverOut();
+    m_hoveredItem = itemAt(qtcompat::eventPos(event));
+    if (m_hoveredItem)
+        m_hoveredItem->setHoverIn();
+}
+
+/// The row at \a point; null when there is none.
+CPageListWidgetItem* CPageListWidgetItemArea::itemAt(const QPoint& point) const
+{
+    return qobject_cast<CPageListWidgetItem*>(childAt(point));
+}

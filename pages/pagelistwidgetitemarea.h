@@ -1,0 +1,73 @@
+#ifndef CWIDGET_PAGES_PAGELISTWIDGETITEMAREA_H
+#define CWIDGET_PAGES_PAGELISTWIDGETITEMAREA_H
+
+#include "widgets/widget.h"
+
+#include <QList>
+#include <QStringList>
+
+class CPageListWidgetItem;
+class QVBoxLayout;
+
+/// The rows of a paged list. It shows one page of those that take part in paging, marks the current
+/// entry and the row under the finger, and tells which row was touched.
+class CWIDGET_EXPORT CPageListWidgetItemArea : public CWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CPageListWidgetItemArea(QWidget* parent = 0);
+    ~CPageListWidgetItemArea() override;
+
+    void addItems(const QStringList& texts);
+    void clear();
+    void setVisibleItems(const QList<int>& indexes);
+
+    int currentIndex() const;
+    void setCurrentIndex(int index);
+    QString currentText() const;
+    void setMaxVisibleRows(int rows);
+    void updateStatus();
+
+    using CWidget::setSize;
+    void setSize(int width, int height) override;
+
+public Q_SLOTS:
+    void setCurrentPage(int page);
+
+Q_SIGNALS:
+    /// A row was touched and let go; its text, and then its index in the owner's list of texts.
+    void currentItemChanged(const QString& text);
+    void currentItemChanged(int index);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+
+private:
+    void addItem(const QString& text);
+    bool hasCurrentPage() const;
+    void showCurrentPage();
+    void showAllVisibleItems();
+    void pauseLayout();
+    void resumeLayout();
+    QSize rowSize() const;
+    CPageListWidgetItem* itemAt(const QPoint& point) const;
+    void choose(CPageListWidgetItem* item);
+
+    int m_currentPage;
+    int m_currentIndex;
+    int m_maxVisibleRows;
+    QString m_currentText;
+    QVBoxLayout* m_layout;
+    CPageListWidgetItem* m_pressedItem;
+    CPageListWidgetItem* m_releasedItem;
+    CPageListWidgetItem* m_hoveredItem;
+    QList<CPageListWidgetItem*> m_items;
+    QList<CPageListWidgetItem*> m_visibleItems;
+
+    Q_DISABLE_COPY(CPageListWidgetItemArea)
+};
+
+#endif
