@@ -3,15 +3,16 @@
 
 // What differs between Qt 4.8, 5 and 6 in tests. No other test asks for the version of Qt.
 
+#include <QApplication>
 #include <QFontMetrics>
 #include <QPixmap>
+#include <QWheelEvent>
 #include <QtTest>
 
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
 #include <QGuiApplication>
 #include <QScreen>
 #else
-#include <QApplication>
 #include <QDesktopWidget>
 #endif
 
@@ -77,6 +78,31 @@ inline int textWidth(const QFontMetrics& metrics, const QString& text)
 #else
     return metrics.width(text);
 #endif
+}
+
+/// The area of the primary screen.
+inline QRect screenGeometry()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return QGuiApplication::primaryScreen()->geometry();
+#else
+    return QApplication::desktop()->screenGeometry();
+#endif
+}
+
+/// Turns the mouse wheel over the middle of \a widget by \a delta eighths of a degree, positive
+/// away from the user.
+inline void turnWheel(QWidget* widget, int delta)
+{
+    const QPoint point = widget->rect().center();
+    const QPoint global = widget->mapToGlobal(point);
+#if QT_VERSION >= QT_VERSION_CHECK(5, 12, 0)
+    QWheelEvent event(point, global, QPoint(), QPoint(0, delta), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+#else
+    QWheelEvent event(point, global, delta, Qt::NoButton, Qt::NoModifier);
+#endif
+    QApplication::sendEvent(widget, &event);
 }
 
 /// What is on the screen, all windows included.

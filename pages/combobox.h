@@ -1,0 +1,93 @@
+#ifndef CWIDGET_PAGES_COMBOBOX_H
+#define CWIDGET_PAGES_COMBOBOX_H
+
+#include "style/global.h"
+#include "style/style.h"
+
+#include <QComboBox>
+#include <QList>
+#include <QStringList>
+
+class CPageListWidget;
+
+/// A combo box for the touch screen. Closed it is Qt's; open it is a paged list over the middle of
+/// the active window. Which entries are offered can be restricted in several ways while every entry
+/// keeps its index, so that a parameter whose values depend on others can keep one table of texts.
+class CWIDGET_EXPORT CComboBox : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit CComboBox(QWidget* parent = 0);
+    ~CComboBox() override;
+
+    void addItems(const QStringList& texts);
+
+    int currentIndex() const;
+
+    void setVisibleItems(unsigned long long mask, unsigned int current);
+    void setVisibleItems(unsigned int mask, unsigned int current);
+    void setVisibleItems(const QList<int>& indexes, int current);
+    void setVisibleItems(const QStringList& texts, int current);
+    void setVisibleItems(const QStringList& texts, const QString& current);
+    void setVisibleItem(const QString& text);
+    void setInvisibleItems(const QList<int>& indexes, int current);
+    bool isChanged(const QList<int>& indexes, int current) const;
+    bool isChanged(const QStringList& texts, int current) const;
+
+    void setTitle(const QString& title);
+    void setBorderVisible(bool visible);
+    void setFont(const QFont& font);
+
+    bool isAutoStyleEnabled() const;
+    void setAutoStyleEnabled(bool enabled);
+    void setWidgetStyle(WidgetStyle style);
+
+    void showPopup() override;
+    void hidePopup() override;
+
+public Q_SLOTS:
+    void setCurrentIndex(int index);
+    void changeCurrentText(const QString& text);
+    void changeCurrentItem(const QString& text);
+    void changeCurrentItem(int index);
+    void itemActivated(const QString& text);
+
+Q_SIGNALS:
+    /// Another text is shown, or a row of the list was touched.
+    void currentValueChanged(const QString& text);
+    /// A row of the list was touched.
+    void currentValueChanged(int index);
+    /// An entry was chosen, in the list or on the closed box.
+    void currentItemActivated(int index);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private Q_SLOTS:
+    void countRowChange(int row);
+    void followRowChange(const QString& text);
+
+private:
+    int rowOf(const QString& text) const;
+    void changeRow(int row);
+    void holdTexts();
+    void releaseTexts();
+    void tellText(const QString& text);
+    void fill(const QStringList& texts, int current);
+    QRect groundGeometry() const;
+    void centerPopup(const QRect& ground);
+
+    int m_currentIndex;
+    QStringList m_items;
+    bool m_autoStyleEnabled;
+    CPageListWidget* m_pageList;
+    bool m_borderVisible;
+    int m_rowChanges;
+    int m_holds;
+    QStringList m_heldTexts;
+
+    Q_DISABLE_COPY(CComboBox)
+};
+
+#endif
