@@ -292,6 +292,9 @@ int CComboBox::rowOf(const QString& text) const
 /// Makes \a row that of the closed box.
 void CComboBox::changeRow(int row)
 {
+    const bool isRow = row >= 0 && row < count();
+    if (!isRow && QComboBox::currentIndex() < 0)
+        return; // Qt 6 would announce once more that no row is current
     holdTexts();
     QComboBox::setCurrentIndex(row);
     releaseTexts();

@@ -4,6 +4,7 @@
 #include "style/qtcompat.h"
 #include "style/widgetstyle.h"
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QSet>
@@ -51,6 +52,7 @@ CPageListWidgetItemArea::~CPageListWidgetItemArea()
 void CPageListWidgetItemArea::addItems(const QStringList& texts)
 {
     pauseLayout();
+    ensurePolished(); // before there are rows, which it would polish as well
     for (int i = 0; i < texts.size(); ++i)
         addItem(texts.at(i));
     resumeLayout();
@@ -59,6 +61,8 @@ void CPageListWidgetItemArea::addItems(const QStringList& texts)
 void CPageListWidgetItemArea::addItem(const QString& text)
 {
     CPageListWidgetItem* item = new CPageListWidgetItem(text, this);
+    // Under a style sheet polishing is slow. A row is polished when it is shown, most never are.
+    QCoreApplication::removePostedEvents(item, QEvent::PolishRequest);
     item->setIndex(m_items.size());
     m_items.append(item);
     item->setSize(rowSize());

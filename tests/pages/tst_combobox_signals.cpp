@@ -91,6 +91,7 @@ private Q_SLOTS:
     void slotsCanBeCalled();
     void renamedRowIsNoChange();
     void clearedAndFilledByQtsOwnMeans();
+    void noRowIsAnnouncedOnce();
     void anotherRowWithTheSameText();
     void editableBox();
     void nestedChanges();
@@ -260,6 +261,24 @@ void tst_combobox_signals::clearedAndFilledByQtsOwnMeans()
     QCOMPARE(f.taken(), text("row(0) text(a)"));
     f.box->removeItem(0);
     QCOMPARE(f.taken(), text("row(0) text(b)"));
+}
+
+void tst_combobox_signals::noRowIsAnnouncedOnce()
+{
+    Fixture f;
+    f.box->clear();
+    f.taken();
+    f.box->setCurrentIndex(0);
+    f.box->setCurrentIndex(5);
+    QCOMPARE(f.taken(), QString());
+    f.box->changeCurrentItem(5);
+    QCOMPARE(f.taken(), text("index(5) activated(5) item(5)"));
+    f.box->changeCurrentText(text("item 1"));
+    QCOMPARE(f.taken(), text("text(item 1)"));
+    Fixture empty((QStringList()));
+    empty.box->setCurrentIndex(0);
+    empty.box->setVisibleItems(1u, 0u);
+    QCOMPARE(empty.taken(), QString());
 }
 
 void tst_combobox_signals::anotherRowWithTheSameText()
