@@ -1,0 +1,22 @@
+#include "keypad/abstractkeypad.h"
+
+#include "style/widgetstyle.h"
+
+namespace
+{
+
+const int defaultWidth = 560;
+const int defaultHeight = 390;
+
+} // namespace
+
+/// An empty black grid of 560 x 390 pixels.
+CAbstractKeyPad::CAbstractKeyPad(QWidget* parent) : CWidget(parent)
+{
+    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::KeyPadGroundColor));
+    setSize(defaultWidth, defaultHeight);
+}
+
+CAbstractKeyPad::~CAbstractKeyPad()
+{
+}

@@ -1,0 +1,24 @@
+#ifndef CWIDGET_KEYPAD_ABSTRACTKEYPAD_H
+#define CWIDGET_KEYPAD_ABSTRACTKEYPAD_H
+
+#include "widgets/widget.h"
+
+/// The base of the grids of keys. A grid tells which key was pressed; what the key does to an entry
+/// is for others to decide.
+class CWIDGET_EXPORT CAbstractKeyPad : public CWidget
+{
+    Q_OBJECT
+
+public:
+    explicit CAbstractKeyPad(QWidget* parent = 0);
+    ~CAbstractKeyPad() override;
+
+Q_SIGNALS:
+    /// A key was pressed that showed \a text. \a keyCode is one of Qt::Key or of KeyPadKey.
+    void currentKeyChanged(const QString& text, int keyCode);
+
+private:
+    Q_DISABLE_COPY(CAbstractKeyPad)
+};
+
+#endif

@@ -1,0 +1,34 @@
+#ifndef CWIDGET_KEYPAD_HEXKEYPAD_H
+#define CWIDGET_KEYPAD_HEXKEYPAD_H
+
+#include "keypad/abstractkeypad.h"
+
+#include <QList>
+
+class CKeyButton;
+
+/// The grid for hexadecimal numbers: A to F, the digits, and keys to edit and accept.
+class CWIDGET_EXPORT CHexKeyPad : public CAbstractKeyPad
+{
+    Q_OBJECT
+
+public:
+    explicit CHexKeyPad(QWidget* parent = 0);
+    ~CHexKeyPad() override;
+
+    bool initialize() override;
+
+    void appendKey(CKeyButton* key);
+    void keyPress(CKeyButton* key);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    CKeyButton* m_selectedKey;
+    CKeyButton* m_currentKey;
+    QList<CKeyButton*> m_keys;
+
+    Q_DISABLE_COPY(CHexKeyPad)
+};
+
+#endif

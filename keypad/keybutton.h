@@ -1,0 +1,41 @@
+#ifndef CWIDGET_KEYPAD_KEYBUTTON_H
+#define CWIDGET_KEYPAD_KEYBUTTON_H
+
+#include "keypad/keycodes.h"
+#include "widgets/pushbutton.h"
+
+/// A key of a keypad: a push button with a code, a text, and a symbol that it may show instead.
+/// Once touched it looks selected until its keypad selects another one. The backspace key draws an
+/// arrow.
+class CWIDGET_EXPORT CKeyButton : public CPushButton
+{
+    Q_OBJECT
+
+public:
+    explicit CKeyButton(QWidget* parent = 0);
+    ~CKeyButton() override;
+
+    int key() const;
+    void setKey(int code);
+    QString getKeyText() const;
+    void setKeyText(const QString& text);
+    QString getSymbol() const;
+    void setSymbol(const QString& symbol);
+    void showSymbol(bool on);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void drawBackspaceArrow();
+
+    int m_key;
+    QString m_keyText;
+    QString m_symbol;
+
+    Q_DISABLE_COPY(CKeyButton)
+};
+
+#endif

@@ -1,0 +1,135 @@
+#include "keypad/keygrid_p.h"
+
+#include "keypad/keybutton.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace keygrid
+{
+
+namespace
+{
+
+CWidgetStyle::KeyStatus following(CWidgetStyle::KeyStatus status, int count)
+{
+    return static_cast<CWidgetStyle::KeyStatus>(status + count);
+}
+
+void setUpBlankKey(CKeyButton* key)
+{
+    key->setBackgroundColor(Qt::black);
+    key->setEnabled(false);
+}
+
+void setUpKey(CKeyButton* key, const Key& row, Pictures* pictures)
+{
+    key->setKeyText(QLatin1String(row.text));
+    key->setKey(row.code);
+    if (row.symbol)
+        key->setSymbol(QString(QLatin1Char(row.symbol)));
+    setLook(key, row.pictures, pictures);
+}
+
+QHBoxLayout* addRow(QVBoxLayout* column, const Row& row)
+{
+    QHBoxLayout* layout = new QHBoxLayout;
+    if (row.spacing != inheritedSpacing)
+        layout->setSpacing(row.spacing);
+    if (row.centered)
+        layout->setAlignment(Qt::AlignCenter);
+    column->addLayout(layout);
+    return layout;
+}
+
+} // namespace
+
+QPixmap Pictures::get(CWidgetStyle::KeyStatus status)
+{
+    QMap<int, QPixmap>::const_iterator found = m_read.constFind(status);
+    if (found == m_read.constEnd())
+        found = m_read.insert(status, CWidgetStyle::getKeyStatus(status));
+    return found.value();
+}
+
+/// Lays out the keys of \a plan on \a grid, whose children they become in the order of the table.
+/// Returns them without the blank ones.
+QList<CKeyButton*> build(QWidget* grid, const Plan& plan)
+{
+    QVBoxLayout* column = new QVBoxLayout(grid);
+    column->setContentsMargins(plan.leftMargin, plan.topMargin, plan.rightMargin,
+                               plan.bottomMargin);
+    if (plan.spacing != inheritedSpacing)
+        column->setSpacing(plan.spacing);
+    QList<CKeyButton*> keys;
+    Pictures pictures;
+    const Key* next = plan.keys;
+    for (int i = 0; i < plan.rowCount; ++i) {
+        QHBoxLayout* row = addRow(column, plan.rows[i]);
+        row->addStretch();
+        for (int j = 0; j < plan.rows[i].keyCount; ++j, ++next) {
+            CKeyButton* key = new CKeyButton(grid);
+            key->setFixedSize(next->width, next->height);
+            if (next->code == Qt::Key_unknown) {
+                setUpBlankKey(key);
+            } else {
+                setUpKey(key, *next, &pictures);
+                keys.append(key);
+            }
+            row->addWidget(key);
+        }
+        row->addStretch();
+    }
+    return keys;
+}
+
+/// Gives \a key the pictures from \a pressed on, and white text, black while it is selected.
+void setLook(CKeyButton* key, CWidgetStyle::KeyStatus pressed, Pictures* pictures)
+{
+    const QPixmap released = pictures->get(following(pressed, 1));
+    const QVariant white = QColor(Qt::white);
+    key->setTextColor(Qt::white);
+    key->setBackground(released);
+    key->setExtraAttr(CPushButton::PressedPixmap, pictures->get(pressed));
+    key->setExtraAttr(CPushButton::ReleasedPixmap, released);
+    key->setExtraAttr(CPushButton::SelectedPixmap, pictures->get(following(pressed, 2)));
+    key->setExtraAttr(CPushButton::PressedTextColor, white);
+    key->setExtraAttr(CPushButton::ReleasedTextColor, white);
+    key->setExtraAttr(CPushButton::SelectedTextColor, QColor(Qt::black));
+}
+
+/// Adds \a key, unless it is null, to \a keys, those whose presses \a grid is told of.
+void watch(QObject* grid, QList<CKeyButton*>* keys, CKeyButton* key)
+{
+    if (!key)
+        return;
+    keys->append(key);
+    key->installEventFilter(grid);
+}
+
+/// Selects the key that accepts the entry, as a new grid shows it, and returns it.
+CKeyButton* selectApply(const QList<CKeyButton*>& keys)
+{
+    for (int i = 0; i < keys.size(); ++i) {
+        if (keys.at(i)->key() != Key_Apply)
+            continue;
+        keys.at(i)->setSelected(true);
+        return keys.at(i);
+    }
+    return 0;
+}
+
+/// Moves the selection of a grid to \a key. Null only takes it away from the \a selected key, which
+/// stays recorded, wanted so.
+void select(CKeyButton** selected, CKeyButton** current, CKeyButton* key)
+{
+    if (*selected)
+        (*selected)->setSelected(false);
+    *current = key;
+    if (!key)
+        return;
+    key->setSelected(true);
+    *selected = key;
+}
+
+} // namespace keygrid

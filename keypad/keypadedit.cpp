@@ -1,0 +1,89 @@
+#include "keypad/keypadedit.h"
+
+#include "widgets/toptitlearea.h"
+
+#include <QKeyEvent>
+#include <QPointer>
+#include <QTextCursor>
+
+namespace
+{
+
+const int titleHeight = 30;
+const int pointSize = 12;
+
+bool isDigit(int key)
+{
+    return key >= Qt::Key_0 && key <= Qt::Key_9;
+}
+
+/// Whether a key of the keyboard with \a code, typing \a text, is allowed in a keypad of \a type.
+bool isKept(CKeyPadFactory::KeyPadType type, int code, const QString& text)
+{
+    switch (type) {
+    case CKeyPadFactory::SKP_BINARY:
+        return code == Qt::Key_0 || code == Qt::Key_1;
+    case CKeyPadFactory::SKP_HEX:
+        return isDigit(code) || (code >= Qt::Key_A && code <= Qt::Key_F);
+    case CKeyPadFactory::SKP_DECIMAL:
+        return isDigit(code);
+    case CKeyPadFactory::SKP_FLOAT:
+        return isDigit(code) || text == QLatin1String(".");
+    default:
+        return true;
+    }
+}
+
+} // namespace
+
+/// An empty field of bold text at the right edge, under a white title strip of 30 pixels.
+CKeyPadEdit::CKeyPadEdit(QWidget* parent)
+    : QTextEdit(parent),
+      m_keyPadType(CKeyPadFactory::SKP_GENERAL),
+      m_titleStrip(new CTopTitleArea(this))
+{
+    const QFont font(QLatin1String("Arial"), pointSize, QFont::Bold);
+    m_titleStrip->setBackgroundColor(Qt::white);
+    m_titleStrip->setFont(font);
+    m_titleStrip->resize(m_titleStrip->width(), titleHeight);
+    setFont(font);
+    setViewportMargins(0, titleHeight, 0, 0);
+    setStyleSheet(QLatin1String("border:0px;"));
+    setAlignment(Qt::AlignRight);
+}
+
+CKeyPadEdit::~CKeyPadEdit()
+{
+}
+
+/// Sets which keys of a keyboard are allowed: those of a keypad of \a type.
+void CKeyPadEdit::setSKPType(CKeyPadFactory::KeyPadType type)
+{
+    m_keyPadType = type;
+}
+
+/// Fixes the size of the field and the width of its title strip, in pixels.
+void CKeyPadEdit::setFixedSize(int width, int height)
+{
+    QWidget::setFixedSize(width, height);
+    m_titleStrip->setFixedWidth(width);
+}
+
+/// Sets the title, and inserts \a text at the cursor: wanted, what the field holds stays.
+void CKeyPadEdit::setText(const QString& title, const QString& text)
+{
+    m_title = title;
+    m_titleStrip->setTitle(title);
+    m_text = text;
+    textCursor().insertText(text);
+}
+
+/// Only the code of the key is looked at. So in a keypad for numbers a key that types nothing, for
+/// example an arrow, deletes a character too, wanted so.
+void CKeyPadEdit::keyPressEvent(QKeyEvent* event)
+{
+    const QPointer<CKeyPadEdit> self(this); // a slot of textChanged() may delete the field
+    QTextEdit::keyPressEvent(event);
+    if (self && !isKept(m_keyPadType, event->key(), event->text()))
+        textCursor().deletePreviousChar();
+}

@@ -1,0 +1,33 @@
+#ifndef CWIDGET_KEYPAD_KEYPADFACTORY_H
+#define CWIDGET_KEYPAD_KEYPADFACTORY_H
+
+#include "style/global.h"
+
+#include <QString>
+
+class QWidget;
+
+/// Asks the user for a text: pops up a keypad over the active window and waits until it closes.
+class CWIDGET_EXPORT CKeyPadFactory
+{
+public:
+    /// Kinds of keypads. Other values are taken as SKP_GENERAL.
+    enum KeyPadType {
+        SKP_GENERAL = 0, ///< any text
+        SKP_HEX = 1,     ///< hexadecimal numbers
+        SKP_BINARY = 2,  ///< binary numbers
+        SKP_DECIMAL = 3, ///< decimal numbers
+        SKP_FLOAT = 4    ///< numbers with a point and without a sign
+    };
+
+    CKeyPadFactory() = delete;
+
+    static QString accessKeyPad(const QString& title, const QString& text, KeyPadType type, int min,
+                                int max, QWidget* parent = 0);
+    static QString accessKeyPad(const QString& title, const QString& text, KeyPadType type,
+                                const QString& min, const QString& max, QWidget* parent = 0);
+    static QString accessKeyPad(const QString& title, const QString& text, KeyPadType type,
+                                QWidget* parent = 0);
+};
+
+#endif

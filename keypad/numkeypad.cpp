@@ -1,0 +1,153 @@
+#include "keypad/numkeypad.h"
+
+#include "keypad/keybutton.h"
+#include "keypad/keygrid_p.h"
+
+#include <QLayout>
+
+namespace
+{
+
+const char signText[] = "+/-";
+
+const keygrid::Key keys[] = {
+    // clang-format off
+    {"1",       Qt::Key_1,         0, CWidgetStyle::NumKeyPressed,       75, 40},
+    {"2",       Qt::Key_2,         0, CWidgetStyle::NumKeyPressed,       75, 40},
+    {"3",       Qt::Key_3,         0, CWidgetStyle::NumKeyPressed,       75, 40},
+
+    {"4",       Qt::Key_4,         0, CWidgetStyle::NumKeyPressed,       75, 40},
+    {"5",       Qt::Key_5,         0, CWidgetStyle::NumKeyPressed,       75, 40},
+    {"6",       Qt::Key_6,         0, CWidgetStyle::NumKeyPressed,       75, 40},
+
+    {"7",       Qt::Key_7,         0, CWidgetStyle::NumKeyPressed,       75, 40},
+    {"8",       Qt::Key_8,         0, CWidgetStyle::NumKeyPressed,       75, 40},
+    {"9",       Qt::Key_9,         0, CWidgetStyle::NumKeyPressed,       75, 40},
+
+    {signText,  Key_PlusMinus,     0, CWidgetStyle::NumKeyPressed,       75, 40},
+    {"0",       Qt::Key_0,         0, CWidgetStyle::NumKeyPressed,       75, 40},
+    {"",        Qt::Key_unknown,   0, CWidgetStyle::NumKeyPressed,       75, 40}, // blank
+
+    {"Del",     Qt::Key_Delete,    0, CWidgetStyle::NumDelPressed,       40, 30},
+    {"Del All", Key_DelAll,        0, CWidgetStyle::NumDelAllPressed,    77, 30},
+    {".",       Key_Point,         0, CWidgetStyle::NumDotPressed,       40, 30},
+    {"Apply",   Key_Apply,         0, CWidgetStyle::NumApplyPressed,     90, 30},
+    {"",        Qt::Key_Backspace, 0, CWidgetStyle::NumBackspacePressed, 40, 30},
+    // clang-format on
+};
+
+const keygrid::Row rows[] = {
+    // clang-format off
+    {3, 20,                        false},
+    {3, 20,                        false},
+    {3, 20,                        false},
+    {0, 20,                        false}, // wanted: a row without keys
+    {3, 20,                        false},
+    {5, keygrid::inheritedSpacing, false},
+    // clang-format on
+};
+
+const keygrid::Plan plan = {
+    keys, rows, sizeof rows / sizeof rows[0], 0, 20, 0, 100, keygrid::inheritedSpacing,
+};
+
+CKeyButton* keyOf(const QList<CKeyButton*>& keys, int code)
+{
+    for (int i = 0; i < keys.size(); ++i) {
+        if (keys.at(i)->key() == code)
+            return keys.at(i);
+    }
+    return 0;
+}
+
+} // namespace
+
+/// The grid with all its keys, "Apply" selected, put into \a mode.
+CNumKeyPad::CNumKeyPad(Mode mode, QWidget* parent)
+    : CAbstractKeyPad(parent), m_mode(SignedMode), m_signKey(0), m_selectedKey(0), m_currentKey(0)
+{
+    CNumKeyPad::initialize();
+    setMode(mode);
+}
+
+CNumKeyPad::~CNumKeyPad()
+{
+}
+
+/// Builds the keys, once: further calls do nothing. Returns true.
+bool CNumKeyPad::initialize()
+{
+    if (layout())
+        return true;
+    const QList<CKeyButton*> built = keygrid::build(this, plan);
+    for (int i = 0; i < built.size(); ++i)
+        appendKey(built.at(i));
+    m_signKey = keyOf(m_keys, Key_PlusMinus);
+    m_selectedKey = keygrid::selectApply(m_keys);
+    return true;
+}
+
+/// Disables the keys that \a mode has no use for. SignedMode and unknown modes bring back what the
+/// stored mode disabled. That is never changed after construction, wanted so: nothing comes back,
+/// whoever needs another mode makes another grid.
+void CNumKeyPad::setMode(Mode mode)
+{
+    if (mode == BinaryMode)
+        setUpperDigitsEnabled(false);
+    else if (mode == UnsignedMode)
+        blankSignKey();
+    else if (m_mode == BinaryMode)
+        setUpperDigitsEnabled(true);
+    else if (m_mode == UnsignedMode)
+        restoreSignKey();
+}
+
+/// Makes the grid take the presses of \a key, which must live as long as the grid. Null is ignored.
+void CNumKeyPad::appendKey(CKeyButton* key)
+{
+    keygrid::watch(this, &m_keys, key);
+}
+
+/// Selects \a key and emits currentKeyChanged(), unless it is disabled. Null deselects only.
+void CNumKeyPad::keyPress(CKeyButton* key)
+{
+    if (key && !key->isEnabled())
+        return;
+    keygrid::select(&m_selectedKey, &m_currentKey, key);
+    if (key)
+        Q_EMIT currentKeyChanged(key->getText(), key->key());
+}
+
+bool CNumKeyPad::eventFilter(QObject* watched, QEvent* event)
+{
+    return keygrid::filterPress(this, watched, event);
+}
+
+/// The digits that a binary number does not have.
+void CNumKeyPad::setUpperDigitsEnabled(bool enabled)
+{
+    for (int i = 0; i < m_keys.size(); ++i) {
+        CKeyButton* key = m_keys.at(i);
+        if (key->key() < Qt::Key_2 || key->key() > Qt::Key_9)
+            continue;
+        key->setTextColor(enabled ? Qt::white : Qt::gray);
+        key->setEnabled(enabled);
+    }
+}
+
+/// Leaves a black place where the sign key was.
+void CNumKeyPad::blankSignKey()
+{
+    m_signKey->setText(QString());
+    m_signKey->setBackgroundColor(Qt::black);
+    m_signKey->setBackground(QPixmap());
+    m_signKey->setEnabled(false);
+}
+
+void CNumKeyPad::restoreSignKey()
+{
+    keygrid::Pictures pictures;
+    m_signKey->setText(QLatin1String(signText));
+    keygrid::setLook(m_signKey, CWidgetStyle::NumKeyPressed, &pictures);
+    m_signKey->setEnabled(true);
+}

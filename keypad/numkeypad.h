@@ -1,0 +1,48 @@
+#ifndef CWIDGET_KEYPAD_NUMKEYPAD_H
+#define CWIDGET_KEYPAD_NUMKEYPAD_H
+
+#include "keypad/abstractkeypad.h"
+
+#include <QList>
+
+class CKeyButton;
+
+/// The grid for decimal and binary numbers: the digits, a sign, a point, and keys to edit and
+/// accept. Keys that the kind of number has no use for are disabled.
+class CWIDGET_EXPORT CNumKeyPad : public CAbstractKeyPad
+{
+    Q_OBJECT
+
+public:
+    enum Mode {
+        BinaryMode = 0,   ///< without the digits 2 to 9
+        UnsignedMode = 1, ///< without the sign
+        SignedMode = 2
+    };
+
+    explicit CNumKeyPad(Mode mode, QWidget* parent = 0);
+    ~CNumKeyPad() override;
+
+    bool initialize() override;
+
+    void setMode(Mode mode);
+    void appendKey(CKeyButton* key);
+    void keyPress(CKeyButton* key);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void setUpperDigitsEnabled(bool enabled);
+    void blankSignKey();
+    void restoreSignKey();
+
+    Mode m_mode;
+    CKeyButton* m_signKey;
+    CKeyButton* m_selectedKey;
+    CKeyButton* m_currentKey;
+    QList<CKeyButton*> m_keys;
+
+    Q_DISABLE_COPY(CNumKeyPad)
+};
+
+#endif

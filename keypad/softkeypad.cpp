@@ -1,0 +1,304 @@
+#include "keypad/softkeypad.h"
+
+#include "keypad/genkeypad.h"
+#include "keypad/hexkeypad.h"
+#include "keypad/keypadedit.h"
+#include "keypad/numkeypad.h"
+#include "widgets/painting_p.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QTextCursor>
+#include <QTextStream>
+#include <QVBoxLayout>
+
+namespace
+{
+
+const int defaultWidth = 519;
+const int defaultHeight = 390;
+const int topMargin = 5;
+const int sideMargins = 50; // left and right of field and grid together
+const int editHeight = 82;
+const int gapBelowKeys = 2;
+const int typeCount = 5;
+const int decimalBase = 10;
+
+/// The grid of a keypad of \a type. The caller owns it.
+CAbstractKeyPad* newGrid(CKeyPadFactory::KeyPadType type)
+{
+    switch (type) {
+    case CKeyPadFactory::SKP_HEX:
+        return new CHexKeyPad;
+    case CKeyPadFactory::SKP_BINARY:
+        return new CNumKeyPad(CNumKeyPad::BinaryMode);
+    case CKeyPadFactory::SKP_DECIMAL:
+        return new CNumKeyPad(CNumKeyPad::SignedMode);
+    case CKeyPadFactory::SKP_FLOAT:
+        return new CNumKeyPad(CNumKeyPad::UnsignedMode);
+    default:
+        return new CGenKeyPad;
+    }
+}
+
+/// The base of the numbers of a keypad whose range is checked; 0 for the other types.
+int checkedBase(CKeyPadFactory::KeyPadType type)
+{
+    switch (type) {
+    case CKeyPadFactory::SKP_HEX:
+        return 16;
+    case CKeyPadFactory::SKP_BINARY:
+        return 2;
+    case CKeyPadFactory::SKP_DECIMAL:
+        return decimalBase;
+    default:
+        return 0;
+    }
+}
+
+/// \a value in \a base, in lower case and with a minus sign if it is negative, where
+/// QString::number() would write two's complement.
+QString numberText(int value, int base)
+{
+    QString text;
+    QTextStream stream(&text);
+    stream.setIntegerBase(base);
+    stream << value;
+    stream.flush();
+    return text;
+}
+
+} // namespace
+
+/// A frameless window-modal dialog of 519 x 390 pixels with an empty entry field, no range, and the
+/// grid for \a type; an unknown type has the general one.
+CSoftKeyPad::CSoftKeyPad(CKeyPadFactory::KeyPadType type, QWidget* parent)
+    : QDialog(parent),
+      m_edit(0),
+      m_gridRow(0),
+      m_grid(0),
+      m_type(type),
+      m_rangeSet(false),
+      m_minimum(0),
+      m_maximum(0)
+{
+    initialize();
+    setSize(defaultWidth, defaultHeight);
+}
+
+CSoftKeyPad::~CSoftKeyPad()
+{
+}
+
+/// Builds field and grid, once: further calls do nothing. Returns true.
+bool CSoftKeyPad::initialize()
+{
+    if (m_edit)
+        return true;
+    setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+    setWindowModality(Qt::WindowModal);
+    QVBoxLayout* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, topMargin, 0, 0);
+    m_edit = new CKeyPadEdit(this);
+    m_edit->setSKPType(m_type);
+    QHBoxLayout* editRow = new QHBoxLayout;
+    editRow->addWidget(m_edit);
+    column->addLayout(editRow);
+    m_gridRow = new QHBoxLayout;
+    column->addLayout(m_gridRow);
+    addGrid();
+    return true;
+}
+
+/// Fixes the size of the dialog, in pixels. Field and grid leave 50 pixels of its width free; the
+/// grid gets all of its height.
+void CSoftKeyPad::setSize(int width, int height)
+{
+    setFixedSize(width, height);
+    m_edit->setFixedSize(width - sideMargins, editHeight);
+    m_grid->setSize(width - sideMargins, height);
+    keepKeysInside();
+}
+
+/// Replaces the grid by that of another type; an unknown type, or the one it has, does nothing.
+/// Wanted: the field still filters a keyboard as before, and the grid has its own default size.
+void CSoftKeyPad::setSKPType(CKeyPadFactory::KeyPadType type)
+{
+    if (type < 0 || type >= typeCount || type == m_type)
+        return;
+    blockSignals(true);
+    m_gridRow->removeWidget(m_grid);
+    m_grid->disconnect();
+    m_grid->hide(); // an event loop within that of the caller does not delete it yet
+    m_grid->deleteLater();
+    m_type = type;
+    addGrid();
+    keepKeysInside();
+    blockSignals(false);
+}
+
+/// Makes validate() check for a number from \a min to \a max.
+void CSoftKeyPad::setRange(int min, int max)
+{
+    m_rangeSet = true;
+    m_minimum = min;
+    m_maximum = max;
+}
+
+/// Makes validate() check for a number, and stores the bounds. Wanted: the check is against the
+/// integer bounds all the same, which are 0 and 0 until they are set.
+void CSoftKeyPad::setRange(const QString& min, const QString& max)
+{
+    m_rangeSet = true;
+    m_minimumText = min;
+    m_maximumText = max;
+}
+
+/// Sets the title, inserts \a text into what the field holds, and makes it the last good text.
+void CSoftKeyPad::setText(const QString& title, const QString& text)
+{
+    m_lastGoodText = text;
+    m_edit->setText(title, text);
+}
+
+/// The entry.
+QString CSoftKeyPad::getInput() const
+{
+    return m_edit->toPlainText();
+}
+
+/// Empties the entry field.
+void CSoftKeyPad::clearInput()
+{
+    m_edit->clear();
+    m_edit->setAlignment(Qt::AlignRight);
+}
+
+/// Whether the entry is a number of the range, or there is no range, or the type has none. If not,
+/// the nearer bound stands in the field afterwards; the minimum when the entry is no number at all.
+bool CSoftKeyPad::validate() const
+{
+    const int base = checkedBase(m_type);
+    if (!m_rangeSet || base == 0)
+        return true;
+    bool converted = false;
+    const int value = getInput().toInt(&converted, base);
+    if (base == decimalBase)
+        converted = true; // wanted: a text that is no decimal number counts as 0
+    if (converted && m_minimum <= value && value <= m_maximum)
+        return true;
+    const int bound = !converted || value < m_minimum ? m_minimum : m_maximum;
+    m_edit->setPlainText(numberText(bound, base));
+    m_edit->setAlignment(Qt::AlignRight);
+    m_edit->moveCursor(QTextCursor::EndOfLine);
+    return false;
+}
+
+/// Does with the entry what the key \a keyCode, showing \a text, stands for.
+void CSoftKeyPad::changedkey(const QString& text, int keyCode)
+{
+    switch (keyCode) {
+    case Qt::Key_CapsLock:
+    case Qt::Key_Shift:
+    case Key_Symbol:
+        break;
+    case Qt::Key_Delete:
+        m_edit->textCursor().deleteChar();
+        break;
+    case Key_DelAll:
+        clearInput();
+        break;
+    case Qt::Key_Backspace:
+        m_edit->textCursor().deletePreviousChar();
+        break;
+    case Key_Apply:
+        if (validate())
+            accept();
+        break;
+    case Qt::Key_Space:
+        m_edit->textCursor().insertText(QLatin1String(" "));
+        break;
+    case Key_PlusMinus:
+        toggleSign();
+        break;
+    default:
+        insertKey(text, keyCode);
+    }
+}
+
+/// For applications: checks the entry, which becomes the last good text, or else is replaced by it;
+/// wanted, not by the bound that validate() chose.
+void CSoftKeyPad::changeText()
+{
+    if (validate()) {
+        m_lastGoodText = getInput();
+        return;
+    }
+    const bool blocked = m_edit->blockSignals(true);
+    m_edit->setPlainText(m_lastGoodText);
+    m_edit->blockSignals(blocked);
+}
+
+void CSoftKeyPad::paintEvent(QPaintEvent* event)
+{
+    QDialog::paintEvent(event);
+    QPainter painter(this);
+    painting::drawFill(&painter, rect(), Qt::black);
+}
+
+/// Adds the grid of the current type below the field.
+void CSoftKeyPad::addGrid()
+{
+    m_grid = newGrid(m_type);
+    m_gridRow->addWidget(m_grid);
+    connect(m_grid, SIGNAL(currentKeyChanged(QString, int)), this, SLOT(changedkey(QString, int)));
+}
+
+/// The grid stands below the field and reaches beyond the lower edge of the dialog. The grids for
+/// numbers have no keys there; of the others that part is kept free.
+void CSoftKeyPad::keepKeysInside()
+{
+    const int gridTop = topMargin + editHeight + layout()->spacing();
+    const int hidden = gridTop + m_grid->height() - height() + gapBelowKeys;
+    const int free = m_grid->layout()->contentsMargins().bottom();
+    m_grid->setContentsMargins(0, 0, 0, qMax(0, hidden - free));
+}
+
+/// Whether a key of the grid may be inserted into an entry of the current type.
+bool CSoftKeyPad::accepts(const QString& text, int keyCode) const
+{
+    const QChar first = text.at(0);
+    switch (m_type) {
+    case CKeyPadFactory::SKP_HEX:
+        return (keyCode >= Qt::Key_A && keyCode <= Qt::Key_F) ||
+               (keyCode >= Qt::Key_0 && keyCode <= Qt::Key_9);
+    case CKeyPadFactory::SKP_BINARY:
+        return first.isNumber() && (keyCode == Qt::Key_0 || keyCode == Qt::Key_1);
+    case CKeyPadFactory::SKP_DECIMAL:
+    case CKeyPadFactory::SKP_FLOAT:
+        return first.isNumber() || first == QLatin1Char('.');
+    default:
+        return true;
+    }
+}
+
+void CSoftKeyPad::insertKey(const QString& text, int keyCode)
+{
+    if (text.isEmpty() || !accepts(text, keyCode))
+        return;
+    m_edit->textCursor().insertText(text);
+    m_edit->setAlignment(Qt::AlignRight);
+}
+
+/// Takes a leading minus sign away, or puts one there.
+void CSoftKeyPad::toggleSign()
+{
+    const QString minus = QLatin1String("-");
+    const QString input = getInput();
+    if (input.isEmpty())
+        m_edit->textCursor().insertText(minus);
+    else
+        m_edit->setPlainText(input.startsWith(minus) ? input.mid(1) : minus + input);
+    m_edit->moveCursor(QTextCursor::EndOfLine);
+    m_edit->setAlignment(Qt::AlignRight);
+}

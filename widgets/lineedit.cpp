@@ -1,0 +1,147 @@
+#include "widgets/lineedit.h"
+
+#include "style/stylewalk_p.h"
+#include "style/widgetstyle.h"
+#include "widgets/painting_p.h"
+
+#include <QPointer>
+
+namespace
+{
+
+const int fieldHeight = 28;
+
+} // namespace
+
+/// An empty field, 28 pixels high, that opens the general keypad without a title and a range; its
+/// font is that of the style file's entry "CLineEdit".
+CLineEdit::CLineEdit(QWidget* parent)
+    : QLineEdit(parent),
+      m_skpActive(true),
+      m_skpType(CKeyPadFactory::SKP_GENERAL),
+      m_autoStyleEnabled(true),
+      m_rangeEnabled(false),
+      m_minimum(0),
+      m_maximum(0),
+      m_borderVisible(true)
+{
+    setFixedHeight(fieldHeight);
+    setStyleSheet(QLatin1String("border: 0px;")); // the frame is painted here
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CLineEdit"), 0));
+}
+
+CLineEdit::~CLineEdit()
+{
+}
+
+/// Sets the title of the keypad, empty by default.
+void CLineEdit::setTitle(const QString& title)
+{
+    m_title = title;
+}
+
+/// Whether touching the field may open a keypad; true by default.
+bool CLineEdit::isSKPActive() const
+{
+    return m_skpActive;
+}
+
+/// Sets whether touching the field may open a keypad.
+void CLineEdit::setSKPActive(bool active)
+{
+    m_skpActive = active;
+}
+
+/// Sets the kind of keypad. An unknown one becomes the general keypad, which is the default.
+void CLineEdit::setSKPType(CKeyPadFactory::KeyPadType type)
+{
+    const bool known = type >= CKeyPadFactory::SKP_GENERAL && type <= CKeyPadFactory::SKP_FLOAT;
+    m_skpType = known ? type : CKeyPadFactory::SKP_GENERAL;
+}
+
+/// Makes the keypad accept numbers from \a min to \a max only. There is no range by default.
+void CLineEdit::setRange(int min, int max)
+{
+    m_rangeEnabled = true;
+    m_minimum = min;
+    m_maximum = max;
+}
+
+/// Stores the bounds and gives the keypad a range: wanted, the integer one, which is from 0 to 0
+/// until it is set. Who needs bounds as texts calls CKeyPadFactory.
+void CLineEdit::setRange(const QString& min, const QString& max)
+{
+    m_rangeEnabled = true;
+    m_minimumText = min;
+    m_maximumText = max;
+}
+
+/// Sets whether the field has a frame of one pixel, and repaints; true by default.
+void CLineEdit::setBorderVisible(bool visible)
+{
+    m_borderVisible = visible;
+    update();
+}
+
+/// Whether setWidgetStyle() applies anything; true by default.
+bool CLineEdit::isAutoStyleEnabled() const
+{
+    return m_autoStyleEnabled;
+}
+
+/// Sets whether setWidgetStyle() applies anything, and repaints.
+void CLineEdit::setAutoStyleEnabled(bool enabled)
+{
+    m_autoStyleEnabled = enabled;
+    update();
+}
+
+/// Sets the font. The style sheet is away meanwhile: with one, a field ignores its font.
+void CLineEdit::setFont(const QFont& font)
+{
+    const QString sheet = styleSheet();
+    setStyleSheet(QString());
+    QWidget::setFont(font);
+    setStyleSheet(sheet);
+}
+
+/// Takes the font of the FieldAll entry of \a style. Colours and other entries are ignored.
+void CLineEdit::setWidgetStyle(WidgetStyle style)
+{
+    stylewalk::setFont(this, m_autoStyleEnabled, style);
+}
+
+/// A lifted finger opens the keypad, also over a read-only field. Whether or not it changed the
+/// text, textEdited() tells when it has closed.
+void CLineEdit::mouseReleaseEvent(QMouseEvent* event)
+{
+    const QPointer<CLineEdit> self(this); // may be deleted by slots and while the keypad is open
+    QLineEdit::mouseReleaseEvent(event);
+    if (!self || !opensKeyPad())
+        return;
+    const QString result = askKeyPad();
+    if (self)
+        setText(result);
+    if (self)
+        Q_EMIT textEdited(text());
+}
+
+bool CLineEdit::opensKeyPad() const
+{
+    return m_skpActive && !CWidgetStyle::isDeviceAvailable(CWidgetStyle::DeviceKeyboard);
+}
+
+/// Waits until the keypad closes and returns its text.
+QString CLineEdit::askKeyPad()
+{
+    if (m_rangeEnabled)
+        return CKeyPadFactory::accessKeyPad(m_title, text(), m_skpType, m_minimum, m_maximum, this);
+    return CKeyPadFactory::accessKeyPad(m_title, text(), m_skpType, this);
+}
+
+void CLineEdit::paintEvent(QPaintEvent* event)
+{
+    QLineEdit::paintEvent(event);
+    if (m_borderVisible)
+        painting::drawThinFrame(this);
+}

@@ -1,0 +1,55 @@
+#ifndef CWIDGET_WIDGETS_LINEEDIT_H
+#define CWIDGET_WIDGETS_LINEEDIT_H
+
+#include "keypad/keypadfactory.h"
+#include "style/global.h"
+#include "style/style.h"
+
+#include <QLineEdit>
+
+/// A field for one line of text on a touch screen. Without a keyboard attached, touching it opens a
+/// keypad; textEdited() tells that the keypad has closed and the field holds its text.
+class CWIDGET_EXPORT CLineEdit : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit CLineEdit(QWidget* parent = 0);
+    ~CLineEdit() override;
+
+    void setTitle(const QString& title);
+    bool isSKPActive() const;
+    void setSKPActive(bool active);
+    void setSKPType(CKeyPadFactory::KeyPadType type);
+    void setRange(int min, int max);
+    void setRange(const QString& min, const QString& max);
+    void setBorderVisible(bool visible);
+
+    bool isAutoStyleEnabled() const;
+    void setAutoStyleEnabled(bool enabled);
+    void setFont(const QFont& font);
+    void setWidgetStyle(WidgetStyle style);
+
+protected:
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    bool opensKeyPad() const;
+    QString askKeyPad();
+
+    QString m_title;
+    bool m_skpActive;
+    CKeyPadFactory::KeyPadType m_skpType;
+    bool m_autoStyleEnabled;
+    bool m_rangeEnabled;
+    int m_minimum;
+    int m_maximum;
+    QString m_minimumText;
+    QString m_maximumText;
+    bool m_borderVisible;
+
+    Q_DISABLE_COPY(CLineEdit)
+};
+
+#endif
