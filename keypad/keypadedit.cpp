@@ -3,7 +3,6 @@
 #include "widgets/toptitlearea.h"
 
 #include <QKeyEvent>
-#include <QPointer>
 #include <QTextCursor>
 
 namespace
@@ -82,8 +81,7 @@ void CKeyPadEdit::setText(const QString& title, const QString& text)
 /// example an arrow, deletes a character too, wanted so.
 void CKeyPadEdit::keyPressEvent(QKeyEvent* event)
 {
-    const QPointer<CKeyPadEdit> self(this); // a slot of textChanged() may delete the field
     QTextEdit::keyPressEvent(event);
-    if (self && !isKept(m_keyPadType, event->key(), event->text()))
+    if (!isKept(m_keyPadType, event->key(), event->text()))
         textCursor().deletePreviousChar();
 }

@@ -115,15 +115,15 @@ void CLineEdit::setWidgetStyle(WidgetStyle style)
 /// text, textEdited() tells when it has closed.
 void CLineEdit::mouseReleaseEvent(QMouseEvent* event)
 {
-    const QPointer<CLineEdit> self(this); // may be deleted by slots and while the keypad is open
     QLineEdit::mouseReleaseEvent(event);
-    if (!self || !opensKeyPad())
+    if (!opensKeyPad())
         return;
+    const QPointer<CLineEdit> self(this); // may be deleted while the keypad is open
     const QString result = askKeyPad();
-    if (self)
-        setText(result);
-    if (self)
-        Q_EMIT textEdited(text());
+    if (!self)
+        return;
+    setText(result);
+    Q_EMIT textEdited(text());
 }
 
 bool CLineEdit::opensKeyPad() const
