@@ -1,0 +1,65 @@
+#ifndef CWIDGET_WIDGETS_CHECKBOX_H
+#define CWIDGET_WIDGETS_CHECKBOX_H
+
+#include "style/global.h"
+#include "style/style.h"
+
+#include <QCheckBox>
+#include <QColor>
+#include <QRect>
+
+/// The touch check box: a square with a drawn tick, a caption beside it, and if wanted a thin frame
+/// around both. It changes as soon as a finger touches it, and announces that; what the application
+/// sets with setChecked() stays silent.
+///
+/// The state is its own. That of Qt's button, which isChecked(), setChecked(), checkState() and
+/// setCheckState() hide here, is never set, so reach the box through a pointer of this class.
+class CWIDGET_EXPORT CCheckBox : public QCheckBox
+{
+    Q_OBJECT
+
+public:
+    explicit CCheckBox(QWidget* parent = 0);
+    explicit CCheckBox(const QString& text, QWidget* parent = 0);
+    ~CCheckBox() override;
+
+    bool isChecked() const;
+    void setChecked(bool checked);
+    Qt::CheckState checkState() const;
+    void setCheckState(Qt::CheckState state);
+
+    void setBorderVisible(bool visible);
+    void setForegroundColor(const QColor& color);
+    void setBackgroundColor(const QColor& color);
+
+    bool isAutoStyleEnabled() const;
+    void setAutoStyleEnabled(bool enabled);
+    void setWidgetStyle(WidgetStyle style);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void nextCheckState() override;
+
+private:
+    QRect boxRect() const;
+    QRect captionRect() const;
+    QRect borderRect() const;
+    void drawBackground(QPainter* painter);
+    void drawBox(QPainter* painter);
+    void drawTick(QPainter* painter);
+    void drawCaption(QPainter* painter);
+    void drawBorder(QPainter* painter);
+
+    bool m_borderVisible;
+    bool m_autoStyleEnabled;
+    QColor m_backgroundColor;
+    QColor m_foregroundColor;
+    QRect m_box;
+    int m_checkState;
+
+    Q_DISABLE_COPY(CCheckBox)
+};
+
+#endif
