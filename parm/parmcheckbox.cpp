@@ -1,0 +1,66 @@
+#include "parm/parmcheckbox.h"
+
+#include "parm/parmpattern_p.h"
+#include "style/widgetstyle.h"
+#include "widgets/checkbox.h"
+
+#include <QHBoxLayout>
+
+namespace
+{
+
+const int rightMargin = 5;
+const int nameSize = 9; // pixels, until a style says otherwise
+
+} // namespace
+
+/// The name on grey and an unchecked box with the caption \a text, styled by the style file's entry
+/// "CParmCheckBox".
+CParmCheckBox::CParmCheckBox(const QString& name, const QString& text, QWidget* parent)
+    : CWidget(parent), m_nameLabel(0), m_checkBox(0)
+{
+    QHBoxLayout* const layout = parmpattern::createLayout(this, rightMargin);
+    m_nameLabel = parmpattern::addNameLabel(layout, name, 0);
+    m_nameLabel->setTextSize(nameSize);
+    m_checkBox = new CCheckBox(text, this);
+    layout->addWidget(m_checkBox);
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CParmCheckBox"), 0));
+    connect(m_checkBox, SIGNAL(stateChanged(int)), this, SIGNAL(stateChanged(int)));
+}
+
+CParmCheckBox::~CParmCheckBox()
+{
+}
+
+/// Sets the text of the name.
+void CParmCheckBox::setName(const QString& name)
+{
+    m_nameLabel->setText(name);
+}
+
+/// The state of the check box, Qt::Unchecked by default.
+Qt::CheckState CParmCheckBox::checkState() const
+{
+    return m_checkBox->checkState();
+}
+
+/// Sets the state of the check box; emits stateChanged() when it was another one.
+void CParmCheckBox::setCheckState(Qt::CheckState state)
+{
+    m_checkBox->setCheckState(state);
+}
+
+/// Sets whether there is a frame around the check box and its caption, as there is by default.
+void CParmCheckBox::setBorderVisible(bool visible)
+{
+    m_checkBox->setBorderVisible(visible);
+}
+
+/// Styles the name by the FieldName entry of \a style, with font and colours; the FieldValue entry
+/// gives the check box its font. The FieldAll entry is ignored, wanted so.
+void CParmCheckBox::setWidgetStyle(WidgetStyle style)
+{
+    parmpattern::applyStyle(this, style, &m_style, [this](const Style& entry) {
+        parmpattern::stylePart(m_nameLabel, static_cast<QWidget*>(m_checkBox), entry);
+    });
+}

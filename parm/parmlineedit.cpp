@@ -1,0 +1,125 @@
+#include "parm/parmlineedit.h"
+
+#include "parm/parmpattern_p.h"
+#include "style/widgetstyle.h"
+#include "widgets/lineedit.h"
+
+#include <QHBoxLayout>
+#include <QResizeEvent>
+
+/// The name on grey and a line edit with the text \a value, styled by the style file's entry
+/// "CParmLineEdit".
+CParmLineEdit::CParmLineEdit(const QString& name, const QString& value, QWidget* parent)
+    : CWidget(parent), m_nameLabel(0), m_lineEdit(0), m_proportion(Proportion1To1)
+{
+    QHBoxLayout* const layout = parmpattern::createLayout(this);
+    m_nameLabel = parmpattern::addNameLabel(layout, name, 0);
+    m_lineEdit = new CLineEdit(this);
+    m_lineEdit->setTitle(name);
+    m_lineEdit->setText(value);
+    layout->addWidget(m_lineEdit);
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CParmLineEdit"), 0));
+    connect(m_lineEdit, SIGNAL(textChanged(QString)), this, SIGNAL(textChanged(QString)));
+    connect(m_lineEdit, SIGNAL(textEdited(QString)), this, SIGNAL(textEdited(QString)));
+    connect(m_lineEdit, SIGNAL(editingFinished()), this, SIGNAL(editingFinished()));
+}
+
+CParmLineEdit::~CParmLineEdit()
+{
+}
+
+/// Sets the text of the name and the title of the keypad.
+void CParmLineEdit::setName(const QString& name)
+{
+    m_nameLabel->setText(name);
+    m_lineEdit->setTitle(name);
+}
+
+/// The text of the line edit.
+QString CParmLineEdit::text() const
+{
+    return m_lineEdit->text();
+}
+
+/// Sets the text of the line edit; emits textChanged() when it was another one.
+void CParmLineEdit::setText(const QString& value)
+{
+    m_lineEdit->setText(value);
+}
+
+/// Fixes the width, in pixels, and splits it, from now on whenever the width changes. Of two halves
+/// the name's is a pixel wider, wanted so. An unknown proportion leaves the parts as they are.
+void CParmLineEdit::setWidth(int width, Proportion proportion)
+{
+    m_proportion = proportion;
+    CWidget::setWidth(width);
+    parmpattern::setWidths(width, proportion, m_nameLabel, m_lineEdit,
+                           proportion == Proportion1To1 ? 1 : 0);
+}
+
+/// Sets the colour of the name's ground. FieldValue does nothing, wanted so: the line edit's
+/// colours are its own.
+void CParmLineEdit::setBackgroundColor(const QColor& color, FieldFlag flag)
+{
+    if (flag != FieldValue)
+        m_nameLabel->setBackgroundColor(color);
+}
+
+/// Sets the colour of the name's text. FieldValue does nothing, wanted so: the line edit's colours
+/// are its own.
+void CParmLineEdit::setTextColor(const QColor& color, FieldFlag flag)
+{
+    if (flag != FieldValue)
+        m_nameLabel->setTextColor(color);
+}
+
+/// Styles the name by the FieldName entry of \a style, with font and colours; the FieldValue entry
+/// gives the line edit its font. The FieldAll entry is ignored, wanted so.
+void CParmLineEdit::setWidgetStyle(WidgetStyle style)
+{
+    parmpattern::applyStyle(this, style, &m_style, [this](const Style& entry) {
+        parmpattern::stylePart(m_nameLabel, m_lineEdit, entry);
+    });
+}
+
+/// Sets the bounds of what the keypad accepts; there are none by default.
+void CParmLineEdit::setRange(int min, int max)
+{
+    m_lineEdit->setRange(min, max);
+}
+
+/// Sets the kind of keypad, by default the general one, which also stands for an unknown kind.
+void CParmLineEdit::setSKPType(CKeyPadFactory::KeyPadType type)
+{
+    m_lineEdit->setSKPType(type);
+}
+
+/// Whether a touch opens the keypad; true by default.
+bool CParmLineEdit::isSKPActive() const
+{
+    return m_lineEdit->isSKPActive();
+}
+
+/// Sets whether a touch opens the keypad.
+void CParmLineEdit::setSKPActive(bool active)
+{
+    m_lineEdit->setSKPActive(active);
+}
+
+/// Sets whether a keyboard can change the text; a keypad can in any case.
+void CParmLineEdit::setReadOnly(bool readOnly)
+{
+    m_lineEdit->setReadOnly(readOnly);
+}
+
+/// Enables or disables the line edit; the name stays enabled.
+void CParmLineEdit::setEnable(bool enabled)
+{
+    m_lineEdit->setEnabled(enabled);
+}
+
+void CParmLineEdit::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    setWidth(event->size().width(), m_proportion);
+}
