@@ -33,12 +33,6 @@ struct Fixture {
 
 } // namespace
 
-#define COMPARE_LOOKS(fixture)                                                                     \
-    do {                                                                                           \
-        const QString fault = (fixture).fault();                                                   \
-        QVERIFY2(fault.isEmpty(), qPrintable(fault));                                              \
-    } while (false)
-
 class tst_parmcheckbox : public QObject
 {
     Q_OBJECT
@@ -81,7 +75,7 @@ void tst_parmcheckbox::looksWithoutAStyle()
     QCOMPARE(fixture.name->getBorderWidth(), 0);
     QCOMPARE(fixture.name->getBorderColor(), QColor(Qt::black));
     QCOMPARE(fixture.name->font().pixelSize(), 9);
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
     CCheckBox reference(QLatin1String("on"));
     reference.setFixedWidth(fixture.box->width());
     CWIDGET_COMPARE_IMAGES(testing::render(fixture.box), testing::render(&reference));
@@ -144,10 +138,10 @@ void tst_parmcheckbox::theBorderIsTheCheckBoxs()
     QVERIFY(framed != bare);
     fixture.field.setBorderVisible(false);
     CWIDGET_COMPARE_IMAGES(testing::render(fixture.box), bare);
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
     fixture.field.setBorderVisible(true);
     CWIDGET_COMPARE_IMAGES(testing::render(fixture.box), framed);
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
 }
 
 void tst_parmcheckbox::stylesOfTheFile_data()
@@ -164,7 +158,7 @@ void tst_parmcheckbox::stylesOfTheFile()
     Fixture fixture;
     if (entries & NameEntry)
         styleByName(&fixture.nameIs);
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
     CCheckBox reference(QLatin1String("on"));
     reference.setFixedWidth(fixture.box->width());
     if (entries & ValueEntry)
@@ -177,7 +171,7 @@ void tst_parmcheckbox::entriesForAllAreIgnored()
     Fixture fixture;
     const QFont plain = fixture.box->font();
     fixture.field.setWidgetStyle(testing::styleOf(Style::FieldAll, testing::testFont(15)));
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
     QCOMPARE(fixture.box->font().toString(), plain.toString());
 }
 
@@ -186,7 +180,7 @@ void tst_parmcheckbox::autoStyleGatesTheStyle()
     Fixture fixture;
     fixture.field.setAutoStyleEnabled(false);
     fixture.field.setWidgetStyle(testing::styleOf(Style::FieldName, testing::testFont(15)));
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
     fixture.field.setAutoStyleEnabled(true);
     fixture.field.setWidgetStyle(testing::styleOf(Style::FieldName, testing::testFont(15)));
     QCOMPARE(fixture.name->font().pixelSize(), 15);

@@ -81,12 +81,6 @@ Style entryOf(Style::Field field, int size)
 
 } // namespace
 
-#define COMPARE_LOOKS(fixture)                                                                     \
-    do {                                                                                           \
-        const QString fault = (fixture).fault();                                                   \
-        QVERIFY2(fault.isEmpty(), qPrintable(fault));                                              \
-    } while (false)
-
 class tst_parmlabel : public QObject
 {
     Q_OBJECT
@@ -134,7 +128,7 @@ void tst_parmlabel::looksWithoutAStyle()
     Fixture fixture;
     QCOMPARE(fixture.name->getBorderWidth(), 0);
     QCOMPARE(fixture.value->getBorderWidth(), 1);
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
 }
 
 void tst_parmlabel::texts()
@@ -218,7 +212,7 @@ void tst_parmlabel::theFontIsTheNamesOnly()
     Fixture fixture;
     fixture.field.setFont(testing::testFont(17));
     fixture.nameIs.font = testing::testFont(17);
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
 }
 
 void tst_parmlabel::theWrapModeIsTheValuesOnly()
@@ -231,10 +225,10 @@ void tst_parmlabel::theWrapModeIsTheValuesOnly()
     fixture.nameIs.text = text;
     fixture.valueIs.text = text;
     fixture.valueIs.wrapMode = CLabel::WordWrap;
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
     fixture.field.setWrapMode(CLabel::CharWrap);
     fixture.valueIs.wrapMode = CLabel::CharWrap;
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
 }
 
 namespace
@@ -268,7 +262,7 @@ void tst_parmlabel::backgroundColors()
             fixture.nameIs.background = Qt::yellow;
         if (flags[i].value)
             fixture.valueIs.background = Qt::yellow;
-        COMPARE_LOOKS(fixture);
+        CWIDGET_COMPARE_LOOKS(fixture);
     }
 }
 
@@ -281,7 +275,7 @@ void tst_parmlabel::textColors()
             fixture.nameIs.textColor = Qt::red;
         if (flags[i].value)
             fixture.valueIs.textColor = Qt::red;
-        COMPARE_LOOKS(fixture);
+        CWIDGET_COMPARE_LOOKS(fixture);
     }
 }
 
@@ -291,11 +285,11 @@ void tst_parmlabel::borders()
         Fixture fixture;
         fixture.field.setBorderVisible(true, flagOf(i));
         fixture.nameIs.borderWidth = flags[i].name ? 1 : 0;
-        COMPARE_LOOKS(fixture);
+        CWIDGET_COMPARE_LOOKS(fixture);
         fixture.field.setBorderVisible(false, flagOf(i));
         fixture.nameIs.borderWidth = 0;
         fixture.valueIs.borderWidth = flags[i].value ? 0 : 1;
-        COMPARE_LOOKS(fixture);
+        CWIDGET_COMPARE_LOOKS(fixture);
     }
 }
 
@@ -308,7 +302,7 @@ void tst_parmlabel::alignments()
             fixture.nameIs.alignment = Qt::AlignRight | Qt::AlignTop;
         if (flags[i].value)
             fixture.valueIs.alignment = Qt::AlignRight | Qt::AlignTop;
-        COMPARE_LOOKS(fixture);
+        CWIDGET_COMPARE_LOOKS(fixture);
     }
 }
 
@@ -332,7 +326,7 @@ void tst_parmlabel::stylesOfTheFile()
         styleByAll(&fixture.nameIs);
         styleByAll(&fixture.valueIs);
     }
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
 }
 
 void tst_parmlabel::entriesCountInTheirOrder()
@@ -359,7 +353,7 @@ void tst_parmlabel::aStyleWithoutColors()
     fixture.nameIs.font = fixture.valueIs.font = testing::testFont(15);
     fixture.nameIs.background = fixture.valueIs.background = QColor();
     fixture.nameIs.textColor = fixture.valueIs.textColor = QColor();
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
 }
 
 void tst_parmlabel::autoStyleGatesTheStyle()
@@ -367,7 +361,7 @@ void tst_parmlabel::autoStyleGatesTheStyle()
     Fixture fixture;
     fixture.field.setAutoStyleEnabled(false);
     fixture.field.setWidgetStyle(testing::styleOf(Style::FieldAll, testing::testFont(15)));
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
     fixture.field.setAutoStyleEnabled(true);
     fixture.field.setWidgetStyle(testing::styleOf(Style::FieldAll, testing::testFont(15)));
     QCOMPARE(fixture.name->font().pixelSize(), 15);
@@ -378,7 +372,7 @@ void tst_parmlabel::theOwnGroundIsReachable()
     Fixture fixture;
     fixture.field.setBackgroundColor(Qt::cyan);
     QCOMPARE(fixture.field.getBackgroundColor(), QColor(Qt::cyan));
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
 }
 
 QTEST_MAIN(tst_parmlabel)

@@ -97,12 +97,6 @@ private:
 
 } // namespace
 
-#define COMPARE_LOOKS(fixture)                                                                     \
-    do {                                                                                           \
-        const QString fault = (fixture).fault();                                                   \
-        QVERIFY2(fault.isEmpty(), qPrintable(fault));                                              \
-    } while (false)
-
 class tst_parmlineedit : public QObject
 {
     Q_OBJECT
@@ -152,7 +146,7 @@ void tst_parmlineedit::looksWithoutAStyle()
     Fixture fixture;
     QCOMPARE(fixture.name->getBorderWidth(), 0);
     QCOMPARE(fixture.name->getBorderColor(), QColor(Qt::black));
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
 }
 
 void tst_parmlineedit::texts()
@@ -267,10 +261,10 @@ void tst_parmlineedit::backgroundColors()
         Fixture fixture;
         const QImage before = testing::render(fixture.edit);
         fixture.field.setBackgroundColor(Qt::red, FieldValue);
-        COMPARE_LOOKS(fixture);
+        CWIDGET_COMPARE_LOOKS(fixture);
         fixture.field.setBackgroundColor(Qt::yellow, static_cast<FieldFlag>(flags[i]));
         fixture.nameIs.background = Qt::yellow;
-        COMPARE_LOOKS(fixture);
+        CWIDGET_COMPARE_LOOKS(fixture);
         CWIDGET_COMPARE_IMAGES(testing::render(fixture.edit), before);
     }
 }
@@ -282,10 +276,10 @@ void tst_parmlineedit::textColors()
         Fixture fixture;
         const QImage before = testing::render(fixture.edit);
         fixture.field.setTextColor(Qt::red, FieldValue);
-        COMPARE_LOOKS(fixture);
+        CWIDGET_COMPARE_LOOKS(fixture);
         fixture.field.setTextColor(Qt::yellow, static_cast<FieldFlag>(flags[i]));
         fixture.nameIs.textColor = Qt::yellow;
-        COMPARE_LOOKS(fixture);
+        CWIDGET_COMPARE_LOOKS(fixture);
         CWIDGET_COMPARE_IMAGES(testing::render(fixture.edit), before);
     }
 }
@@ -305,7 +299,7 @@ void tst_parmlineedit::stylesOfTheFile()
     Fixture fixture;
     if (entries & NameEntry)
         styleByName(&fixture.nameIs);
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
     const QFont font = entries & ValueEntry ? entryFont(ValueSize, true) : plain;
     QCOMPARE(fixture.edit->font().pixelSize(), font.pixelSize());
     QCOMPARE(fixture.edit->font().bold(), font.bold());
@@ -317,7 +311,7 @@ void tst_parmlineedit::entriesForAllAreIgnored()
     Fixture fixture;
     const QFont plain = fixture.edit->font();
     fixture.field.setWidgetStyle(testing::styleOf(Style::FieldAll, testing::testFont(15)));
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
     QCOMPARE(fixture.edit->font().toString(), plain.toString());
 }
 
@@ -326,7 +320,7 @@ void tst_parmlineedit::autoStyleGatesTheStyle()
     Fixture fixture;
     fixture.field.setAutoStyleEnabled(false);
     fixture.field.setWidgetStyle(testing::styleOf(Style::FieldName, testing::testFont(15)));
-    COMPARE_LOOKS(fixture);
+    CWIDGET_COMPARE_LOOKS(fixture);
     fixture.field.setAutoStyleEnabled(true);
     fixture.field.setWidgetStyle(testing::styleOf(Style::FieldName, testing::testFont(15)));
     QCOMPARE(fixture.name->font().pixelSize(), 15);

@@ -159,4 +159,11 @@ inline QString layoutFault(const QWidget* field, int right)
 
 } // namespace parmtesting
 
+/// Whether the parts of a fixture look as it says.
+#define CWIDGET_COMPARE_LOOKS(fixture)                                                             \
+    do {                                                                                           \
+        const QString fault = (fixture).fault();                                                   \
+        QVERIFY2(fault.isEmpty(), qPrintable(fault));                                              \
+    } while (false)
+
 #endif
