@@ -2,14 +2,14 @@
 #define CWIDGET_PARM_PARMFIELD_H
 
 /// The part of a parameter field that a setter is meant for, with the numbers of Style::Field.
-enum FieldFlag {
+enum FieldFlag : int {
     FieldName = 0,  ///< the name, at the left
     FieldValue = 1, ///< the value, at the right
     FieldAll = 2    ///< both
 };
 
 /// How the width of a parameter field is split, name to value.
-enum Proportion {
+enum Proportion : int {
     Proportion1To1 = 0,
     Proportion1To2 = 1,
     Proportion2To1 = 2,

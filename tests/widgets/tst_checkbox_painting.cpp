@@ -1,4 +1,3 @@
-#include "style/qtcompat.h"
 #include "support/resolution.h"
 #include "support/testing.h"
 #include "widgets/checkbox.h"
@@ -62,7 +61,7 @@ void paintCaption(QPainter* painter, const QSize& size, const GeometryRow& row, 
 
 void paintFrame(QPainter* painter, const QSize& size, const Look& look)
 {
-    const int captionWidth = qtcompat::textWidth(QFontMetrics(look.font), look.caption);
+    const int captionWidth = testcompat::textWidth(QFontMetrics(look.font), look.caption);
     QPen pen(Qt::black);
     pen.setWidth(1);
     pen.setJoinStyle(Qt::MiterJoin);
