@@ -1,6 +1,7 @@
 // The gallery: a device's front panel that shows every widget of the library, built as an
 // application developer would build it.
 
+#include "gallerywidgets.h"
 #include "panel.h"
 #include "shots.h"
 
@@ -9,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QStringList>
+#include <QTimer>
 #include <QVector>
 
 #include <cstdio>
@@ -134,6 +136,7 @@ int run(const Options& options)
     int result = 0;
     if (options.shots.isEmpty()) {
         panel.show();
+        QTimer::singleShot(0, panel.screen(QLatin1String("devices")), SLOT(watch()));
         result = QApplication::exec();
     } else {
         result = writeShots(&panel, options.shots) ? 0 : 1;

@@ -1,14 +1,20 @@
 #include "panel.h"
 
 #include "controlsscreen.h"
+#include "devicesscreen.h"
+#include "entryscreen.h"
+#include "listsscreen.h"
+#include "parmscreen.h"
 #include "picturesscreen.h"
+#include "progressscreen.h"
 #include "themescreen.h"
 #include "titlestrip.h"
 
+#include <CPageListWidgetHeader>
+#include <CPageListWidgetItem>
 #include <CWidgetStyle>
 #include <KQWidgetStack>
 #include <QApplication>
-#include <QDir>
 
 namespace
 {
@@ -26,14 +32,28 @@ const struct Entry {
     Screen* (*make)(Panel* panel);
 } entries[] = {
     // clang-format off
-    {"controls", "Controls", make<ControlsScreen>},
-    {"theme",    "Theme",    make<ThemeScreen>},
-    {"pictures", "Pictures", make<PicturesScreen>},
+    {"controls",   "Controls",   make<ControlsScreen>},
+    {"entry",      "Text entry", make<EntryScreen>},
+    {"lists",      "Lists",      make<ListsScreen>},
+    {"parameters", "Parameters", make<ParmScreen>},
+    {"progress",   "Progress",   make<ProgressScreen>},
+    {"devices",    "Devices",    make<DevicesScreen>},
+    {"theme",      "Theme",      make<ThemeScreen>},
+    {"pictures",   "Pictures",   make<PicturesScreen>},
     // clang-format on
 };
 
 const int entryCount = sizeof entries / sizeof entries[0];
 const int entryHeight = 50;
+
+template <class Control>
+void restyleAll(QWidget* parent, const char* name)
+{
+    const WidgetStyle style = CWidgetStyle::getWidgetStyle(QLatin1String(name));
+    const QList<Control*> controls = parent->findChildren<Control*>();
+    for (int i = 0; i < controls.size(); ++i)
+        controls.at(i)->setWidgetStyle(style);
+}
 
 KQWidgetStack* stack()
 {
@@ -122,14 +142,21 @@ void Panel::restyle(const QString& family)
     setHint(QString::fromLatin1("The style file now says %1").arg(family));
 }
 
-/// Buttons are no CWidgets, so the walk over the children does not reach them.
+/// The controls that are Qt's own at heart are no CWidgets: the walk over the children does not
+/// reach them, nor what else stands in a plain widget. Parameter fields have two parts.
 void Panel::updateWidgetStyle()
 {
     CWidget::updateWidgetStyle();
-    const WidgetStyle style = CWidgetStyle::getWidgetStyle(QLatin1String("CPushButton"));
-    const QList<CPushButton*> buttons = findChildren<CPushButton*>();
-    for (int i = 0; i < buttons.size(); ++i)
-        buttons.at(i)->setWidgetStyle(style);
+    restyleAll<CPushButton>(this, "CPushButton");
+    restyleAll<CCheckBox>(this, "CCheckBox");
+    restyleAll<CLineEdit>(this, "CLineEdit");
+    restyleAll<CComboBox>(this, "CComboBox");
+    restyleAll<CPageListWidgetItem>(this, "CComboBox");
+    restyleAll<CPageListWidgetHeader>(this, "CComboBox");
+    restyleAll<CParmLabel>(this, "CParmLabel");
+    restyleAll<CParmLineEdit>(this, "CParmLineEdit");
+    restyleAll<CParmComboBox>(this, "CParmComboBox");
+    restyleAll<CParmCheckBox>(this, "CParmCheckBox");
 }
 
 /// Stops the clock of the title strip at a time that looks well in a picture.

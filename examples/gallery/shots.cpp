@@ -1,42 +1,78 @@
 #include "shots.h"
 
-#include "gallerywidgets.h"
+#include "entryscreen.h"
+#include "listsscreen.h"
 #include "panel.h"
+#include "shotwriter.h"
 
+#include <CPageListWidget>
 #include <QApplication>
-#include <QDir>
-#include <QPainter>
-
-#include <cstdio>
+#include <QMouseEvent>
 
 namespace
 {
 
-bool writeShot(Panel* panel, const QDir& folder, const QString& name)
+const struct {
+    CKeyPadFactory::KeyPadType type;
+    const char* name;
+} keypads[] = {
+    // clang-format off
+    {CKeyPadFactory::SKP_GENERAL, "keypad-general"},
+    {CKeyPadFactory::SKP_HEX,     "keypad-hex"},
+    {CKeyPadFactory::SKP_BINARY,  "keypad-binary"},
+    {CKeyPadFactory::SKP_DECIMAL, "keypad-decimal"},
+    {CKeyPadFactory::SKP_FLOAT,   "keypad-float"},
+    // clang-format on
+};
+
+/// Lifts a finger from \a widget.
+void touch(QWidget* widget)
 {
+    const QPoint point = widget->rect().center();
+    QMouseEvent event(QEvent::MouseButtonRelease, point, widget->mapToGlobal(point), Qt::LeftButton,
+                      Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
+}
+
+void writeKeypads(Panel* panel, ShotWriter* writer)
+{
+    const QString name = QLatin1String("entry");
+    panel->showScreen(name);
+    const EntryScreen* screen = qobject_cast<EntryScreen*>(panel->screen(name));
+    for (size_t i = 0; i < sizeof keypads / sizeof keypads[0]; ++i) {
+        writer->expectKeypad(QLatin1String(keypads[i].name));
+        touch(screen->field(keypads[i].type));
+        QApplication::sendPostedEvents(0, QEvent::DeferredDelete);
+    }
+}
+
+void writeOpenList(Panel* panel, ShotWriter* writer)
+{
+    const QString name = QLatin1String("lists");
+    panel->showScreen(name);
+    CComboBox* combo = qobject_cast<ListsScreen*>(panel->screen(name))->longList();
+    combo->showPopup();
     QApplication::processEvents();
-    QImage image(panel->size(), QImage::Format_RGB32);
-    panel->render(&image);
-    const QString path = folder.filePath(name + QLatin1String(".png"));
-    const bool written = image.save(path);
-    fprintf(written ? stdout : stderr, "%s%s\n", written ? "" : "cannot write ", qPrintable(path));
-    return written;
+    writer->write(QLatin1String("list-open"), combo->findChild<CPageListWidget*>());
+    combo->hidePopup();
 }
 
 } // namespace
 
 bool writeShots(Panel* panel, const QString& folder)
 {
+    ShotWriter writer(panel, folder);
     panel->freezeTime();
     panel->show();
+    panel->activateWindow();
     QApplication::processEvents();
-    const QDir dir(folder);
-    bool written = QDir().mkpath(folder);
     const QStringList names = Panel::screenNames();
     for (int i = 0; i < names.size(); ++i) {
         panel->showScreen(names.at(i));
         panel->screen(names.at(i))->prepareShot();
-        written = writeShot(panel, dir, names.at(i)) && written;
+        writer.write(names.at(i));
     }
-    return written;
+    writeKeypads(panel, &writer);
+    writeOpenList(panel, &writer);
+    return writer.isGood();
 }
