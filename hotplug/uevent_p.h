@@ -1,8 +1,6 @@
 #ifndef CWIDGET_HOTPLUG_UEVENT_P_H
 #define CWIDGET_HOTPLUG_UEVENT_P_H
 
-#include "style/global.h"
-
 #include <QByteArray>
 #include <QString>
 
@@ -23,8 +21,8 @@ struct Notification {
     QString device;
 };
 
-CWIDGET_EXPORT QByteArray joinedFields(const QByteArray& datagram, QBuffer* buffer);
-CWIDGET_EXPORT Notification notification(const QByteArray& line);
+QByteArray joinedFields(const QByteArray& datagram, QBuffer* buffer);
+Notification notification(const QByteArray& line);
 
 } // namespace uevent
 
