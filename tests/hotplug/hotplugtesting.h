@@ -66,6 +66,26 @@ private:
     QStringList* m_log;
 };
 
+/// Deletes an object when a device is added.
+class Deleter : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Deleter(QObject* victim) : m_victim(victim)
+    {
+    }
+
+public Q_SLOTS:
+    void deleteIt()
+    {
+        delete m_victim;
+    }
+
+private:
+    QObject* m_victim;
+};
+
 /// Lets the event loop run until \a condition holds; false when it does not within ten seconds.
 template <typename Condition>
 bool waitUntil(Condition condition)

@@ -2,8 +2,7 @@
 
 #include "hotplug/hotplugtesting.h"
 
-#include <QThread>
-
+using testing::Deleter;
 using testing::Receiver;
 using testing::SignalLog;
 
@@ -11,26 +10,6 @@ namespace
 {
 
 const char usbAdded[] = "add@/devices/xACTION=addSUBSYSTEM=usb";
-
-/// Deletes an object when a device is added.
-class Deleter : public QObject
-{
-    Q_OBJECT
-
-public:
-    explicit Deleter(QObject* victim) : m_victim(victim)
-    {
-    }
-
-public Q_SLOTS:
-    void deleteIt()
-    {
-        delete m_victim;
-    }
-
-private:
-    QObject* m_victim;
-};
 
 /// Posts the notification that it gets once more while it is being told about it.
 class Echo : public QObject
@@ -54,73 +33,6 @@ private:
     int m_left;
 };
 
-/// Deletes itself when an event arrives.
-class Mayfly : public QObject
-{
-public:
-    bool event(QEvent* event) override
-    {
-        if (event->type() == QDeviceChangeEvent::registeredType())
-            delete this;
-        return true;
-    }
-};
-
-/// Counts the events that arrive in the thread it lives in, and those that do not.
-class ThreadReceiver : public QObject
-{
-public:
-    ThreadReceiver() : here(0), elsewhere(0)
-    {
-    }
-
-    bool event(QEvent* event) override
-    {
-        if (event->type() != QDeviceChangeEvent::registeredType())
-            return QObject::event(event);
-        (QThread::currentThread() == thread() ? here : elsewhere).ref();
-        return true;
-    }
-
-    QAtomicInt here;
-    QAtomicInt elsewhere;
-};
-
-/// Makes receivers, hands them over, and destroys them at a moment of its own.
-class ReceiverMill : public QThread
-{
-public:
-    ReceiverMill() : m_handedOver(0)
-    {
-    }
-
-    void run() override
-    {
-        for (int i = 0; i < 2000; ++i) {
-            QObject* receiver = new QObject;
-            m_handedOver.fetchAndStoreOrdered(receiver);
-            while (handedOver())
-                yieldCurrentThread();
-            for (volatile int spin = 0; spin < (i % 50) * 40; spin = spin + 1) {
-            }
-            delete receiver;
-        }
-    }
-
-    QObject* handedOver()
-    {
-        return m_handedOver.fetchAndAddOrdered(0);
-    }
-
-    void taken()
-    {
-        m_handedOver.fetchAndStoreOrdered(0);
-    }
-
-private:
-    QAtomicPointer<QObject> m_handedOver;
-};
-
 } // namespace
 
 class tst_devicewatcher : public QObject
@@ -133,17 +45,6 @@ private Q_SLOTS:
     void lineLeadsToSignalAndEvent_data();
     void lineLeadsToSignalAndEvent();
     void signalComesBeforeTheEvent();
-    void everyReceiverGetsItsOwnEventInOrder();
-    void eventsOvertakeOrdinaryOnes();
-    void receiverAddedTwiceGetsTwoEvents();
-    void nullReceiverIsHarmless();
-    void withoutReceiversThereIsOnlyTheSignal();
-    void destroyedReceiverIsDropped();
-    void receiverDestroyedWithEventUnderWay();
-    void receiverDestroyedByASlot();
-    void receiverDestroysItself();
-    void receiversInOtherThreads();
-    void receiversDestroyedInOtherThreads();
     void watcherDestroyedByASlot();
     void watcherDestroyedWithEventUnderWay();
     void notificationsWithinNotifications();
@@ -245,189 +146,6 @@ void tst_devicewatcher::signalComesBeforeTheEvent()
     QCoreApplication::sendPostedEvents();
     QCOMPARE(log.entries.join(QLatin1String(" ")),
              QString::fromLatin1("removed:remove@/a added:add@/a r:1:remove@/a r:0:add@/a"));
-}
-
-void tst_devicewatcher::everyReceiverGetsItsOwnEventInOrder()
-{
-    QDeviceWatcher watcher;
-    QDeviceWatcherPrivate parser(&watcher);
-    QStringList log;
-    Receiver a(QLatin1String("a"), &log);
-    Receiver b(QLatin1String("b"), &log);
-    Receiver c(QLatin1String("c"), &log);
-    parser.appendEventReceiver(&b);
-    parser.appendEventReceiver(&a);
-    parser.appendEventReceiver(&c);
-    parser.parseLine("change@/x");
-    parser.parseLine("add@/y");
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(log.join(QLatin1String(" ")),
-             QString::fromLatin1("b:2:change@/x a:2:change@/x c:2:change@/x "
-                                 "b:0:add@/y a:0:add@/y c:0:add@/y"));
-}
-
-void tst_devicewatcher::eventsOvertakeOrdinaryOnes()
-{
-    QDeviceWatcher watcher;
-    QDeviceWatcherPrivate parser(&watcher);
-    QStringList log;
-    Receiver receiver(QLatin1String("r"), &log);
-    parser.appendEventReceiver(&receiver);
-    const QString ordinary = QString::fromLatin1("ordinary");
-    QCoreApplication::postEvent(&receiver,
-                                new QDeviceChangeEvent(QDeviceChangeEvent::Add, ordinary));
-    parser.parseLine("add@/x");
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(log.join(QLatin1String(" ")), QString::fromLatin1("r:0:add@/x r:0:ordinary"));
-}
-
-void tst_devicewatcher::receiverAddedTwiceGetsTwoEvents()
-{
-    QDeviceWatcher watcher;
-    QDeviceWatcherPrivate parser(&watcher);
-    QStringList log;
-    Receiver receiver(QLatin1String("r"), &log);
-    parser.appendEventReceiver(&receiver);
-    parser.appendEventReceiver(&receiver);
-    parser.parseLine("add@/x");
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(log.join(QLatin1String(" ")), QString::fromLatin1("r:0:add@/x r:0:add@/x"));
-}
-
-void tst_devicewatcher::nullReceiverIsHarmless()
-{
-    QDeviceWatcher watcher;
-    watcher.appendEventReceiver(0);
-    QDeviceWatcherPrivate parser(&watcher);
-    QStringList log;
-    Receiver receiver(QLatin1String("r"), &log);
-    testing::Messages messages;
-    parser.appendEventReceiver(0);
-    parser.appendEventReceiver(&receiver);
-    parser.appendEventReceiver(0);
-    parser.parseLine("add@/x");
-    parser.parseLine("add@/y");
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(log.join(QLatin1String(" ")), QString::fromLatin1("r:0:add@/x r:0:add@/y"));
-    QCOMPARE(messages.warnings(), QStringList());
-}
-
-void tst_devicewatcher::withoutReceiversThereIsOnlyTheSignal()
-{
-    QDeviceWatcher watcher;
-    QDeviceWatcherPrivate parser(&watcher);
-    SignalLog log(&watcher);
-    for (int i = 0; i < 100; ++i) // an event made for nobody would be a leak
-        parser.parseLine(usbAdded);
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(log.entries.size(), 100);
-}
-
-void tst_devicewatcher::destroyedReceiverIsDropped()
-{
-    QDeviceWatcher watcher;
-    QDeviceWatcherPrivate parser(&watcher);
-    QStringList log;
-    Receiver* first = new Receiver(QLatin1String("first"), &log);
-    QWidget* widget = new QWidget;
-    Receiver last(QLatin1String("last"), &log);
-    parser.appendEventReceiver(first);
-    parser.appendEventReceiver(widget);
-    parser.appendEventReceiver(&last);
-    delete first;
-    delete widget;
-    parser.parseLine("add@/x");
-    parser.parseLine("remove@/x");
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(log.join(QLatin1String(" ")), QString::fromLatin1("last:0:add@/x last:1:remove@/x"));
-}
-
-void tst_devicewatcher::receiverDestroyedWithEventUnderWay()
-{
-    QDeviceWatcher watcher;
-    QDeviceWatcherPrivate parser(&watcher);
-    QStringList log;
-    Receiver* first = new Receiver(QLatin1String("first"), &log);
-    Receiver last(QLatin1String("last"), &log);
-    parser.appendEventReceiver(first);
-    parser.appendEventReceiver(&last);
-    parser.parseLine("add@/x");
-    delete first;
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(log, QStringList(QLatin1String("last:0:add@/x")));
-}
-
-void tst_devicewatcher::receiverDestroyedByASlot()
-{
-    QDeviceWatcher watcher;
-    QDeviceWatcherPrivate parser(&watcher);
-    QStringList log;
-    Receiver* first = new Receiver(QLatin1String("first"), &log);
-    Receiver last(QLatin1String("last"), &log);
-    Deleter deleter(first);
-    connect(&watcher, SIGNAL(deviceRemoved(QString)), &deleter, SLOT(deleteIt()));
-    parser.appendEventReceiver(first);
-    parser.appendEventReceiver(&last);
-    parser.parseLine("remove@/x");
-    QCoreApplication::sendPostedEvents();
-    QCOMPARE(log, QStringList(QLatin1String("last:1:remove@/x")));
-}
-
-void tst_devicewatcher::receiverDestroysItself()
-{
-    QDeviceWatcher watcher;
-    QDeviceWatcherPrivate parser(&watcher);
-    QPointer<QObject> mayfly(new Mayfly);
-    parser.appendEventReceiver(mayfly);
-    parser.appendEventReceiver(mayfly);
-    parser.parseLine("add@/x"); // the second event dies with it
-    QCoreApplication::sendPostedEvents();
-    QVERIFY(!mayfly);
-    parser.parseLine("add@/y");
-    QCoreApplication::sendPostedEvents();
-}
-
-void tst_devicewatcher::receiversInOtherThreads()
-{
-    QDeviceWatcher watcher;
-    QDeviceWatcherPrivate parser(&watcher);
-    QThread threads[3];
-    ThreadReceiver receivers[4]; // the last one stays here
-    for (int i = 0; i < 4; ++i)
-        parser.appendEventReceiver(&receivers[i]);
-    for (int i = 0; i < 3; ++i) {
-        receivers[i].moveToThread(&threads[i]);
-        threads[i].start();
-    }
-    for (int i = 0; i < 200; ++i)
-        parser.parseLine(i % 2 ? "add@/x" : "change@/x");
-    for (int r = 0; r < 4; ++r) {
-        QVERIFY(testing::waitUntil([&] { return receivers[r].here.fetchAndAddOrdered(0) == 200; }));
-        QCOMPARE(receivers[r].elsewhere.fetchAndAddOrdered(0), 0);
-    }
-    for (int i = 0; i < 3; ++i) {
-        threads[i].quit();
-        threads[i].wait();
-    }
-}
-
-void tst_devicewatcher::receiversDestroyedInOtherThreads()
-{
-    QDeviceWatcher watcher;
-    QDeviceWatcherPrivate parser(&watcher);
-    ReceiverMill mill;
-    mill.start();
-    int taken = 0;
-    while (!mill.isFinished()) {
-        if (QObject* receiver = mill.handedOver()) {
-            parser.appendEventReceiver(receiver);
-            mill.taken(); // it may be destroyed from here on
-            ++taken;
-        }
-        parser.parseLine(usbAdded);
-    }
-    mill.wait();
-    QCOMPARE(taken, 2000);
 }
 
 void tst_devicewatcher::watcherDestroyedByASlot()

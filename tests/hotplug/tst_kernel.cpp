@@ -2,6 +2,8 @@
 #include "hotplug/hotplugwatcher.h"
 
 #include "hotplug/hotplugtesting.h"
+#include "support/keypads.h"
+#include "widgets/lineedit.h"
 
 #include <QFile>
 #include <QTimer>
@@ -185,6 +187,30 @@ bool keyboardAfter(QDeviceWatcher* source, const char* action, const char* field
     return false;
 }
 
+/// Plugs a keyboard in, or out, and touches a line edit afterwards; how many keypads opened, or -1
+/// when it could not be tried. Another test may do the opposite at that very moment: then once
+/// more.
+int keyPadsOfATouch(CLineEdit* edit, QDeviceWatcher* source, bool plugged)
+{
+    NullDevice device;
+    for (int attempt = 0; attempt < 20; ++attempt) {
+        const QString mark = newMark();
+        KeyboardReader reader(source, mark);
+        if (!device.notify(plugged ? "add" : "remove", mark, "SUBSYSTEM=input NAME=UsbKeyboard") ||
+            !testing::waitUntil([&] { return !reader.seen.isEmpty(); }))
+            return -1;
+        if (CWidgetStyle::isDeviceAvailable(CWidgetStyle::DeviceKeyboard) != plugged)
+            continue;
+        testing::KeyPadUser user([](CSoftKeyPad* dialog) {
+            testing::touch(testing::keyOf(dialog, Qt::Key_7));
+            testing::touch(testing::keyOf(dialog, Key_Apply));
+        });
+        testing::touch(edit);
+        return user.opened();
+    }
+    return -1;
+}
+
 } // namespace
 
 class tst_kernel : public QObject
@@ -202,6 +228,7 @@ private Q_SLOTS:
     void stormBeyondTheBuffer();
     void keyboardFromKernelToRegistry();
     void othersDoNotReachTheRegistry();
+    void lineEditOpensItsKeypadWithoutAKeyboard();
 };
 
 void tst_kernel::initTestCase()
@@ -410,6 +437,24 @@ void tst_kernel::othersDoNotReachTheRegistry()
         QVERIFY(keyboardAfter(source, rows[i].action, rows[i].fields, rows[i].before, &after));
         QCOMPARE(after, rows[i].before);
     }
+}
+
+void tst_kernel::lineEditOpensItsKeypadWithoutAKeyboard()
+{
+    CHotplugWatcher watcher;
+    QDeviceWatcher* source = watcher.findChild<QDeviceWatcher*>();
+    CLineEdit edit;
+    edit.setSKPActive(true);
+    edit.setSKPType(CKeyPadFactory::SKP_DECIMAL);
+    QSignalSpy edited(&edit, SIGNAL(textEdited(QString)));
+    for (int round = 1; round <= 2; ++round) {
+        QCOMPARE(keyPadsOfATouch(&edit, source, true), 0);
+        QCOMPARE(edited.count(), round - 1);
+        QCOMPARE(keyPadsOfATouch(&edit, source, false), 1);
+        QCOMPARE(edited.count(), round);
+        QCOMPARE(edit.text(), QString(round, QLatin1Char('7')));
+    }
+    CWidgetStyle::setDeviceAvailable(CWidgetStyle::DeviceKeyboard, false);
 }
 
 QTEST_MAIN(tst_kernel)
