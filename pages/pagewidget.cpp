@@ -204,8 +204,9 @@ void CPageWidget::openPageAutoUpdate(int number)
     QSet<int> registered;
     for (int i = 0; i < m_autoUpdatePages.size(); ++i)
         registered.insert(m_autoUpdatePages.at(i));
+    const int count = m_pageBar->count();
     const int first = qMax(0, number);
-    const int end = number < 0 ? m_pageBar->count() : qMin(number + 1, m_pageBar->count());
+    const int end = number >= 0 && number < count ? number + 1 : count;
     for (int i = first; i < end; ++i) {
         if (!registered.contains(i))
             m_autoUpdatePages.append(i);

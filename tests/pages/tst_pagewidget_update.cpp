@@ -176,6 +176,7 @@ void tst_pagewidget_update::registrationIsBounded()
     CPageWidget pages;
     addPages(&pages);
     pages.openPageAutoUpdate(3); // not below the count
+    pages.openPageAutoUpdate(2147483647);
     pages.addPage(new Page("d"));
     pages.updateParm(0, 1);
     QCOMPARE(taken(), text("a"));
