@@ -64,6 +64,7 @@ private Q_SLOTS:
     void frameIsOnTheOutermostPixels();
     void settersRepaint();
     void titleReachesTheHeader();
+    void emptyTableCanBeRestricted();
 };
 
 void tst_combobox::cleanup()
@@ -328,6 +329,22 @@ void tst_combobox::titleReachesTheHeader()
     expected.setSize(220, 60);
     QVERIFY(testing::render(header) != before);
     CWIDGET_COMPARE_IMAGES(testing::render(header), testing::render(&expected));
+}
+
+void tst_combobox::emptyTableCanBeRestricted()
+{
+    CComboBox box;
+    box.setVisibleItems(0x3ULL, 1u);
+    QCOMPARE(listOf(box)->visibleItemsIndex(), numbers(0, 1));
+    QCOMPARE(box.currentIndex(), 1);
+    box.setInvisibleItems(numbers(1, 1), 3);
+    QCOMPARE(listOf(box)->visibleItemsIndex(), QList<int>());
+    box.setVisibleItems(QStringList(), text("x"));
+    box.setVisibleItem(text("x"));
+    box.showPopup();
+    QVERIFY(listOf(box)->isVisible());
+    box.hidePopup();
+    QCOMPARE(rowOf(box), 0); // the text that was offered alone
 }
 
 QTEST_MAIN(tst_combobox)

@@ -114,7 +114,6 @@ private Q_SLOTS:
     void singleUnknownText();
     void blockedSignalsStayBlocked();
     void boxMayDieInItsSignals();
-    void emptyTable();
 };
 
 void tst_combobox_filter::everyBitOf64()
@@ -487,22 +486,6 @@ void tst_combobox_filter::boxMayDieInItsSignals()
         restrictions[i](box);
         QVERIFY2(!guard, QByteArray::number(static_cast<int>(i)).constData());
     }
-}
-
-void tst_combobox_filter::emptyTable()
-{
-    Fixture f(0);
-    f.box.setVisibleItems(0x3ULL, 1u);
-    QCOMPARE(f.offered(), list(0, 1));
-    QCOMPARE(f.box.currentIndex(), 1);
-    f.box.setInvisibleItems(list(1), 3);
-    QCOMPARE(f.offered(), QList<int>());
-    f.box.setVisibleItems(QStringList(), text("x"));
-    f.box.setVisibleItem(text("x"));
-    f.box.showPopup();
-    QVERIFY(f.list()->isVisible());
-    f.box.hidePopup();
-    QCOMPARE(f.row(), 0); // the text that was offered alone
 }
 
 QTEST_MAIN(tst_combobox_filter)
