@@ -1,6 +1,6 @@
 #include "pages/combobox.h"
 #include "pages/pagelistwidget.h"
-#include "signaltools.h"
+#include "support/signaltools.h"
 #include "support/testing.h"
 
 namespace

@@ -3,7 +3,7 @@
 #include "pages/pagelistwidget.h"
 #include "pages/pagelistwidgetheader.h"
 #include "pages/pagelistwidgetitem.h"
-#include "signaltools.h"
+#include "support/signaltools.h"
 #include "support/testing.h"
 #include "widgets/pushbutton.h"
 

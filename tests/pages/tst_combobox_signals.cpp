@@ -1,7 +1,7 @@
 #include "pages/combobox.h"
 #include "pages/pagelistwidget.h"
 #include "pages/pagelistwidgetitem.h"
-#include "signaltools.h"
+#include "support/signaltools.h"
 #include "support/testing.h"
 
 #include <QStandardItemModel>

@@ -2,7 +2,7 @@
 #include "pages/pagebar.h"
 #include "pages/pagelistwidget.h"
 #include "pages/pagelistwidgetitem.h"
-#include "signaltools.h"
+#include "support/signaltools.h"
 #include "support/testing.h"
 #include "widgets/pushbutton.h"
 

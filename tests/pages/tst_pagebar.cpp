@@ -1,5 +1,5 @@
 #include "pages/pagebar.h"
-#include "signaltools.h"
+#include "support/signaltools.h"
 #include "support/testing.h"
 #include "widgets/pushbutton.h"
 

@@ -3,7 +3,7 @@
 #include "pages/pagelistwidgetheader.h"
 #include "pages/pagelistwidgetitem.h"
 #include "pages/pagelistwidgetitemarea.h"
-#include "signaltools.h"
+#include "support/signaltools.h"
 #include "support/testing.h"
 #include "widgets/pushbutton.h"
 

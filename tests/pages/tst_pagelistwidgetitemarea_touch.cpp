@@ -1,6 +1,6 @@
 #include "pages/pagelistwidgetitem.h"
 #include "pages/pagelistwidgetitemarea.h"
-#include "signaltools.h"
+#include "support/signaltools.h"
 #include "support/testing.h"
 
 #include <QMouseEvent>

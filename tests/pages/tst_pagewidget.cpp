@@ -1,6 +1,6 @@
 #include "pages/pagebar.h"
 #include "pages/pagewidget.h"
-#include "signaltools.h"
+#include "support/signaltools.h"
 #include "support/testing.h"
 #include "widgets/graphicsview.h"
 #include "widgets/pushbutton.h"

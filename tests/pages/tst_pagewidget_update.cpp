@@ -1,5 +1,5 @@
 #include "pages/pagewidget.h"
-#include "signaltools.h"
+#include "support/signaltools.h"
 #include "support/testing.h"
 #include "widgets/graphicsview.h"
 

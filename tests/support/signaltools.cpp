@@ -1,4 +1,4 @@
-#include "signaltools.h"
+#include "support/signaltools.h"
 
 SignalTap::SignalTap(QStringList* log, const char* name, QObject* sender, const char* signal)
     : m_log(log), m_name(QString::fromLatin1(name))
