@@ -13,7 +13,7 @@ class QDeviceWatcherPrivate;
 class CWIDGET_EXPORT QDeviceChangeEvent : public QEvent
 {
 public:
-    enum Action {
+    enum Action : int {
         Add = 0,
         Remove = 1,
         Change = 2

@@ -2,7 +2,7 @@
 #define CWIDGET_KEYPAD_KEYCODES_H
 
 /// Codes of the keys that only keypads have, above those of Qt. All other keys carry Qt's codes.
-enum KeyPadKey {
+enum KeyPadKey : int {
     Key_Symbol = 0x2000009,   ///< switches the general keypad to its symbols and back
     Key_Apply = 0x200000a,    ///< checks and accepts the entry
     Key_Point = 0x200000b,    ///< the decimal point

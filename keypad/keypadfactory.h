@@ -12,7 +12,7 @@ class CWIDGET_EXPORT CKeyPadFactory
 {
 public:
     /// Kinds of keypads. Other values are taken as SKP_GENERAL.
-    enum KeyPadType {
+    enum KeyPadType : int {
         SKP_GENERAL = 0, ///< any text
         SKP_HEX = 1,     ///< hexadecimal numbers
         SKP_BINARY = 2,  ///< binary numbers

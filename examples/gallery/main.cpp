@@ -18,21 +18,24 @@
 namespace
 {
 
-const char usage[] = "usage: quorlin-gallery [--style FILE] [--screen NAME] [--shots DIR]\n"
-                     "                       [--platform PLATFORM and other options of Qt]\n"
-                     "\n"
-                     "  --style FILE    the style file; without it, a copy of the one that comes\n"
-                     "                  with the library\n"
-                     "  --screen NAME   the screen to start with: ";
+const char usage[] =
+    "usage: quorlin-gallery [--style FILE] [--screen NAME] [--shots DIR]\n"
+    "                       [--log] [--platform PLATFORM and other options of Qt]\n"
+    "\n"
+    "  --style FILE    the style file; without it, a copy of the one that comes\n"
+    "                  with the library\n"
+    "  --screen NAME   the screen to start with: ";
 
-const char usageEnd[] = "  --shots DIR     draw every screen into a picture in DIR, and leave\n";
+const char usageEnd[] = "  --shots DIR     draw every screen into a picture in DIR, and leave\n"
+                        "  --log           print what the bottom bar says\n";
 
 struct Options {
-    Options() : valid(true)
+    Options() : valid(true), log(false)
     {
     }
 
     bool valid;
+    bool log;
     QString style;
     QString screen;
     QString shots;
@@ -49,11 +52,15 @@ Options takeOptions(QStringList* arguments)
                          : name == QLatin1String("--screen") ? &options.screen
                          : name == QLatin1String("--shots")  ? &options.shots
                                                              : 0;
-        if (!value) {
+        if (!value && name != QLatin1String("--log")) {
             ++i;
             continue;
         }
         arguments->removeAt(i);
+        if (!value) {
+            options.log = true;
+            continue;
+        }
         options.valid = i < arguments->size();
         if (options.valid)
             *value = arguments->takeAt(i);
@@ -132,6 +139,7 @@ int run(const Options& options)
         fprintf(stderr, "The style file %s cannot be read; the panel has no styles.\n",
                 qPrintable(style));
     Panel panel(style);
+    panel.setLogging(options.log);
     panel.showScreen(options.screen.isEmpty() ? Panel::screenNames().first() : options.screen);
     int result = 0;
     if (options.shots.isEmpty()) {

@@ -16,6 +16,8 @@
 #include <KQWidgetStack>
 #include <QApplication>
 
+#include <cstdio>
+
 namespace
 {
 
@@ -63,7 +65,8 @@ KQWidgetStack* stack()
 } // namespace
 
 /// Styled by \a styleFile, which the theme screen rewrites.
-Panel::Panel(const QString& styleFile) : CWidget(0), m_styleFile(styleFile)
+Panel::Panel(const QString& styleFile)
+    : CWidget(0), m_styleFile(styleFile), m_strip(0), m_back(0), m_hint(0), m_logging(false)
 {
     setSize(CWidgetStyle::getSize(CWidgetStyle::ScreenSize));
     setBackgroundColor(QColor(0x2E, 0x31, 0x3D));
@@ -127,6 +130,16 @@ void Panel::back()
 void Panel::setHint(const QString& text)
 {
     m_hint->setText(text);
+    if (m_logging && !text.isEmpty()) {
+        printf("%s\n", text.toUtf8().constData());
+        fflush(stdout);
+    }
+}
+
+/// Sets whether what the bottom bar says is printed, too.
+void Panel::setLogging(bool enabled)
+{
+    m_logging = enabled;
 }
 
 /// Gives all widgets a font family while the panel runs: rewrites the style file, reads it again

@@ -23,6 +23,7 @@ public:
     void showScreen(const QString& name);
     Screen* screen(const QString& name) const;
     void freezeTime();
+    void setLogging(bool enabled);
     void updateWidgetStyle() override;
 
 public Q_SLOTS:
@@ -45,6 +46,7 @@ private:
     QList<Screen*> m_screens;
     CPushButton* m_back;
     CLabel* m_hint;
+    bool m_logging;
 
     Q_DISABLE_COPY(Panel)
 };

@@ -157,8 +157,10 @@ void ParmScreen::choiceMade(int index)
 
 void ParmScreen::serviceChanged(int state)
 {
-    if (state == Qt::Checked)
+    const bool on = state == Qt::Checked;
+    if (on)
         m_pages->showPage(servicePage);
     else
         m_pages->hidePage(servicePage);
+    Q_EMIT hint(QString::fromLatin1("Service page: %1").arg(QLatin1String(on ? "on" : "off")));
 }

@@ -2,6 +2,7 @@
 
 #include "support/xserver.h"
 
+#include <QApplication>
 #include <QDir>
 
 namespace
@@ -25,7 +26,7 @@ int numberAfter(const QString& text, const char* label)
 
 GalleryWindow::GalleryWindow(const QStringList& arguments)
 {
-    m_process.setProcessChannelMode(QProcess::ForwardedChannels);
+    m_process.setStandardErrorFile(latin("gallery-errors.txt"), QIODevice::Append);
     m_process.start(latin(GALLERY), arguments);
 }
 
@@ -71,10 +72,15 @@ bool GalleryWindow::waitUntilShown()
     return true;
 }
 
-void GalleryWindow::press(const QPoint& point)
+void GalleryWindow::moveTo(const QPoint& point)
 {
     const QPoint onScreen = m_origin + point;
-    testing::xdotool(latin("mousemove --sync %1 %2").arg(onScreen.x()).arg(onScreen.y()));
+    testing::xdotool(latin("mousemove %1 %2").arg(onScreen.x()).arg(onScreen.y()));
+}
+
+void GalleryWindow::press(const QPoint& point)
+{
+    moveTo(point);
     testing::xdotool(latin("mousedown 1"));
 }
 
@@ -89,6 +95,11 @@ void GalleryWindow::click(const QPoint& point)
     release();
 }
 
+void GalleryWindow::separateClicks() const
+{
+    QTest::qWait(QApplication::doubleClickInterval() + 100);
+}
+
 void GalleryWindow::close()
 {
     // As the window manager does it when its close button is pressed.
@@ -99,6 +110,23 @@ void GalleryWindow::close()
 QImage GalleryWindow::grab() const
 {
     return testcompat::grabScreen().copy(QRect(m_origin, panelSize));
+}
+
+QString GalleryWindow::nextLine()
+{
+    for (int waited = 0; waited < patience && !m_process.canReadLine(); waited += pause)
+        QTest::qWait(pause);
+    return m_process.canReadLine() ? QString::fromUtf8(m_process.readLine()).trimmed() : QString();
+}
+
+bool GalleryWindow::waitForColor(const QPoint& point, const QColor& color) const
+{
+    for (int waited = 0; waited < patience; waited += pause) {
+        if (grab().pixel(point) == color.rgb())
+            return true;
+        QTest::qWait(pause);
+    }
+    return false;
 }
 
 QString GalleryWindow::waitFor(const QImage& expected, const QRect& rect) const

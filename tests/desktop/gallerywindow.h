@@ -20,12 +20,22 @@ public:
     bool waitUntilShown();
 
     void press(const QPoint& point);
+    void moveTo(const QPoint& point);
     void release();
     void click(const QPoint& point);
+
+    /// Waits so long that a next click at the same place is no double click, which keys ignore.
+    void separateClicks() const;
     void close();
 
     /// The pixels of the window on the screen.
     QImage grab() const;
+
+    /// Waits for the next line that the gallery prints, given --log; a null text when none comes.
+    QString nextLine();
+
+    /// Waits until the pixel at \a point has a colour.
+    bool waitForColor(const QPoint& point, const QColor& color) const;
 
     /// Waits until the part \a rect of the window looks like that of \a expected. Empty then; else
     /// what differs.

@@ -1,8 +1,6 @@
 #include "gallerywindow.h"
 
-#include "support/xserver.h"
-
-#include <QApplication>
+#include "support/desktopmain.h"
 
 namespace
 {
@@ -175,16 +173,5 @@ void tst_gallery::closingTheWindowEndsTheProcess()
     QCOMPARE(window.exitCode(), 0);
 }
 
-int main(int argc, char** argv)
-{
-    const testing::XServer server;
-    if (!server.error().isEmpty()) {
-        fprintf(stderr, "FAIL!  : %s\n", qPrintable(server.error()));
-        return 1;
-    }
-    QApplication application(argc, argv);
-    tst_gallery test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+CWIDGET_DESKTOP_TEST_MAIN(tst_gallery)
 #include "tst_gallery.moc"

@@ -27,10 +27,17 @@ fi
 
 echo "== every installed header compiles by itself"
 export PKG_CONFIG_PATH=$libdir/pkgconfig
-for header in "$prefix"/include/quorlin-cwidget/C* "$prefix"/include/quorlin-cwidget/*/*.h; do
-    # shellcheck disable=SC2046
-    "$cxx" -std=c++"$standard" -fsyntax-only -x c++ "$header" $(pkg-config --cflags quorlin-cwidget)
+read -ra cflags < <(pkg-config --cflags quorlin-cwidget)
+for header in "$prefix"/include/quorlin-cwidget/*/*.h; do
+    "$cxx" -std=c++"$standard" -fsyntax-only -x c++ "$header" "${cflags[@]}"
 done
+
+echo "== all classes by their names"
+for class in "$prefix"/include/quorlin-cwidget/[A-Z]*; do
+    echo "#include <$(basename "$class")>"
+done >"$stage/all.cpp"
+test "$(wc -l <"$stage/all.cpp")" -ge 30
+"$cxx" -std=c++"$standard" -fsyntax-only "$stage/all.cpp" "${cflags[@]}"
 
 echo "== a consumer with CMake"
 "$cmake" -S "$consumer" -B "$stage/cmake" -DCMAKE_CXX_COMPILER="$cxx" \

@@ -76,6 +76,7 @@ XServer::XServer() : m_server(-1), m_manager(-1)
     }
     setenv("DISPLAY", (":" + display).constData(), 1);
     setenv("QT_QPA_PLATFORM", "xcb", 1);
+    setenv("QT_XCB_GL_INTEGRATION", "none", 1); // widgets need none, and its drivers leak
     const char* const manager[] = {"openbox", "--sm-disable", 0};
     m_manager = spawn(manager, -1);
     usleep(200000);

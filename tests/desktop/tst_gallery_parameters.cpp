@@ -1,0 +1,136 @@
+#include "gallerywindow.h"
+
+#include "keypad/keybutton.h"
+#include "keypad/keycodes.h"
+#include "keypad/softkeypad.h"
+#include "listmap.h"
+#include "support/desktopmain.h"
+
+#include <QLayout>
+
+namespace
+{
+
+const QRect pagesRect(140, 60, 640, 480);
+const QPoint nextPage(140 + 320 + 50 + 13, 60 + 450 + 15);
+const QPoint previousPage(140 + 320 - 50 - 13, 60 + 450 + 15);
+const int firstField = 60 + 12 + 28 + 12 + 15;
+const int fieldPitch = 42;
+const int valueX = 600;
+const int switchX = 140 + 20 + 300 + 13;
+const QColor marked(67, 172, 232);
+
+QString latin(const char* text)
+{
+    return QString::fromLatin1(text);
+}
+
+/// The value part of a field of the page, from 0.
+QPoint field(int number)
+{
+    return QPoint(valueX, firstField + number * fieldPitch);
+}
+
+QPoint keyOf(CKeyPadFactory::KeyPadType type, const QString& text, int code)
+{
+    CSoftKeyPad keypad(type);
+    keypad.setAttribute(Qt::WA_DontShowOnScreen);
+    keypad.show();
+    keypad.layout()->activate();
+    const QPoint origin = listmap::panelCenter - QPoint(keypad.width() / 2, keypad.height() / 2);
+    const QList<CKeyButton*> keys = keypad.findChildren<CKeyButton*>();
+    for (int i = 0; i < keys.size(); ++i) {
+        if (code ? keys.at(i)->key() == code : keys.at(i)->getKeyText() == text)
+            return origin + keys.at(i)->mapTo(&keypad, keys.at(i)->rect().center());
+    }
+    return QPoint();
+}
+
+} // namespace
+
+class tst_gallery_parameters : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void everyKindOfValueArrives();
+    void valuesAreKeptWhenPaging();
+    void checkBoxTurnsAPageOn();
+};
+
+void tst_gallery_parameters::initTestCase()
+{
+    QVERIFY(CWidgetStyle::initialize(latin(CWIDGET_SOURCE_DIR "/style/widget-style.xml")));
+}
+
+void tst_gallery_parameters::everyKindOfValueArrives()
+{
+    GalleryWindow window(QStringList()
+                         << latin("--log") << latin("--screen") << latin("parameters"));
+    QVERIFY(window.waitUntilShown());
+    QCOMPARE(window.waitFor(GalleryWindow::shot(latin("parameters")), pagesRect), QString());
+
+    window.click(field(1)); // the mode, a choice of three
+    QVERIFY(window.waitForColor(listmap::rowOfShortList(1), marked));
+    window.click(listmap::rowOfShortList(2));
+    QCOMPARE(window.nextLine(), latin("Mode: entry 2"));
+
+    window.click(field(4)); // the port, a number
+    const CKeyPadFactory::KeyPadType decimal = CKeyPadFactory::SKP_DECIMAL;
+    QVERIFY(window.waitForColor(listmap::panelCenter - QPoint(256, -5), Qt::black));
+    window.click(keyOf(decimal, QString(), Key_DelAll));
+    window.click(keyOf(decimal, latin("5"), 0));
+    window.click(keyOf(decimal, QString(), Key_Apply)); // below the range
+    window.separateClicks();
+    window.click(keyOf(decimal, QString(), Key_Apply));
+    QCOMPARE(window.nextLine(), latin("Port: 1024"));
+}
+
+void tst_gallery_parameters::valuesAreKeptWhenPaging()
+{
+    GalleryWindow window(QStringList()
+                         << latin("--log") << latin("--screen") << latin("parameters"));
+    QVERIFY(window.waitUntilShown());
+    const QImage shot = GalleryWindow::shot(latin("parameters"));
+    QCOMPARE(window.waitFor(shot, pagesRect), QString());
+    window.click(field(1));
+    QVERIFY(window.waitForColor(listmap::rowOfShortList(1), marked));
+    window.click(listmap::rowOfShortList(0));
+    QCOMPARE(window.nextLine(), latin("Mode: entry 0"));
+    window.moveTo(QPoint(700, 580));
+    QTest::qWait(300);
+    const QImage changed = window.grab();
+    const QRect fields(160, 100, 600, 260);
+    QVERIFY(changed.copy(fields) != shot.copy(fields));
+    window.click(nextPage);
+    for (int i = 0; i < 100 && window.grab().copy(fields) == changed.copy(fields); ++i)
+        QTest::qWait(50);
+    QVERIFY(window.grab().copy(fields) != changed.copy(fields));
+    window.click(previousPage);
+    QCOMPARE(window.waitFor(changed, fields), QString());
+}
+
+void tst_gallery_parameters::checkBoxTurnsAPageOn()
+{
+    GalleryWindow window(QStringList()
+                         << latin("--log") << latin("--screen") << latin("parameters"));
+    QVERIFY(window.waitUntilShown());
+    QCOMPARE(window.waitFor(GalleryWindow::shot(latin("parameters")), pagesRect), QString());
+    window.click(previousPage); // back from the first page is the last one, the units
+    QTest::qWait(300);
+    const QRect bar(400, 510, 120, 30);
+    const QImage before = window.grab();
+    window.click(QPoint(switchX, firstField + 2 * fieldPitch));
+    QCOMPARE(window.nextLine(), latin("Service page: on"));
+    for (int i = 0; i < 100 && window.grab().copy(bar) == before.copy(bar); ++i)
+        QTest::qWait(50);
+    QVERIFY(window.grab().copy(bar) != before.copy(bar)); // one page more
+    window.click(QPoint(switchX, firstField + 2 * fieldPitch));
+    QCOMPARE(window.nextLine(), latin("Service page: off"));
+    QCOMPARE(window.waitFor(before, bar), QString());
+}
+
+CWIDGET_DESKTOP_TEST_MAIN(tst_gallery_parameters)
+
+#include "tst_gallery_parameters.moc"
