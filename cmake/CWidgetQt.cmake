@@ -34,6 +34,9 @@ elseif(CWIDGET_QT_MAJOR EQUAL 6)
   set(CWIDGET_QT_PKGCONFIG "Qt6Core Qt6Gui Qt6Widgets Qt6Xml")
   if(BUILD_TESTING)
     find_package(Qt6 REQUIRED COMPONENTS Test)
+    # Without the path of each test's folder, which no test asks for: all of them share a
+    # precompiled header, and must be compiled alike for that.
+    set_target_properties(Qt6::Test PROPERTIES INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
     set(CWIDGET_QT_TEST Qt6::Test)
   endif()
 else()

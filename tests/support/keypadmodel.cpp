@@ -276,7 +276,7 @@ CheckedGrid::CheckedGrid(CAbstractKeyPad* grid, CKeyPadFactory::KeyPadType type)
 {
     connect(grid, SIGNAL(currentKeyChanged(QString, int)), SLOT(note(QString, int)));
     if (m_keys.size() != m_model.keyCount())
-        qFatal("%d keys instead of %d", m_keys.size(), m_model.keyCount());
+        qFatal("%d keys instead of %d", static_cast<int>(m_keys.size()), m_model.keyCount());
 }
 
 const GridModel& CheckedGrid::model() const
