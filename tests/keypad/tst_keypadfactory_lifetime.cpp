@@ -14,12 +14,12 @@ using testing::touch;
 namespace
 {
 
+const int rounds = 1000;
+
+// With sanitizers deleted memory is kept aside for a while; they tell themselves what is lost.
 #if defined(__SANITIZE_ADDRESS__)
-// The leak sanitizer sees every byte that is lost; deleted memory is kept aside for a while.
-const int rounds = 200;
 const bool memoryTells = false;
 #else
-const int rounds = 1000;
 const bool memoryTells = true;
 #endif
 

@@ -46,6 +46,16 @@ QByteArray keyPadOf(CLineEdit* edit)
     return kind;
 }
 
+template <typename Class>
+int livingWidgets()
+{
+    int count = 0;
+    const QWidgetList widgets = QApplication::allWidgets();
+    for (int i = 0; i < widgets.size(); ++i)
+        count += qobject_cast<Class*>(widgets.at(i)) ? 1 : 0;
+    return count;
+}
+
 /// Touches \a edit, and \a codes of the keypad that opens.
 int touchKeys(CLineEdit* edit, const QList<int>& codes)
 {
@@ -125,7 +135,8 @@ void tst_lineedit::init()
 void tst_lineedit::cleanup()
 {
     testing::deleteDeferred();
-    QCOMPARE(QApplication::allWidgets().size(), 0);
+    QCOMPARE(livingWidgets<CLineEdit>(), 0);
+    QCOMPARE(livingWidgets<CSoftKeyPad>(), 0);
 }
 
 void tst_lineedit::newFieldHasItsDefaults()
