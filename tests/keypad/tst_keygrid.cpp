@@ -5,8 +5,9 @@
 #include "keypad/numkeypad.h"
 #include "support/keypads.h"
 
-#include <QLayout>
+#include <QHBoxLayout>
 #include <QSignalSpy>
+#include <QVBoxLayout>
 
 using testing::keyOf;
 using testing::keysOf;
@@ -139,6 +140,8 @@ private Q_SLOTS:
     void applyStartsSelected();
     void layoutOfTheRows_data();
     void layoutOfTheRows();
+    void rowsOfTheLayout_data();
+    void rowsOfTheLayout();
     void initializeBuildsOnce_data();
     void initializeBuildsOnce();
     void everyKeyIsReported_data();
@@ -191,6 +194,7 @@ GRID_ROWS(keysAreChildrenInOrder)
 GRID_ROWS(looksOfEveryKey)
 GRID_ROWS(applyStartsSelected)
 GRID_ROWS(layoutOfTheRows)
+GRID_ROWS(rowsOfTheLayout)
 GRID_ROWS(initializeBuildsOnce)
 GRID_ROWS(everyKeyIsReported)
 GRID_ROWS(firstPressDeselectsApply)
@@ -270,6 +274,29 @@ void tst_keygrid::layoutOfTheRows()
             testing::geometryOf(m_row.keys(), sizes[i], m_row.margins, m_row.spacing,
                                 m_row.rowSpacings, m_row.rowsCentered);
         QCOMPARE(testing::geometryOf(keysOf(pad.data())), expected);
+    }
+}
+
+/// Rows without keys take no place, so that they are there is seen here only.
+void tst_keygrid::rowsOfTheLayout()
+{
+    QVBoxLayout* column = qobject_cast<QVBoxLayout*>(m_pad->layout());
+    QVERIFY(column);
+    QCOMPARE(column->contentsMargins(), m_row.margins);
+    QCOMPARE(column->count(), m_row.rowSpacings.size());
+    for (int i = 0; i < column->count(); ++i) {
+        QHBoxLayout* row = qobject_cast<QHBoxLayout*>(column->itemAt(i)->layout());
+        QVERIFY(row);
+        int keys = 0;
+        for (int j = 0; j < m_row.keys().size(); ++j)
+            keys += m_row.keys().at(j).row == i ? 1 : 0;
+        QCOMPARE(row->count(), keys + 2);
+        QVERIFY(row->itemAt(0)->spacerItem());
+        QVERIFY(row->itemAt(keys + 1)->spacerItem());
+        if (m_row.rowSpacings.at(i) >= 0)
+            QCOMPARE(row->spacing(), m_row.rowSpacings.at(i));
+        const int alignment = m_row.rowsCentered.at(i) ? 0x84 : 0;
+        QCOMPARE(static_cast<int>(row->alignment()), alignment);
     }
 }
 

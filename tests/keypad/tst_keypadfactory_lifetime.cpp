@@ -209,6 +209,8 @@ void tst_keypadfactory_lifetime::askDuringTheApplication()
     });
     user.leaveOpen();
     m_result = CKeyPadFactory::accessKeyPad("", "0", CKeyPadFactory::SKP_DECIMAL);
+    QVERIFY(m_dialog);
+    QVERIFY(!m_dialog->isVisible());
 }
 
 void tst_keypadfactory_lifetime::applicationQuitsWhileOpen()

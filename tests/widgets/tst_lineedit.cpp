@@ -46,6 +46,32 @@ QByteArray keyPadOf(CLineEdit* edit)
     return kind;
 }
 
+/// Notes the style sheets that a field has when its font changes.
+class SheetsOfFontChanges : public QObject
+{
+public:
+    explicit SheetsOfFontChanges(CLineEdit* edit) : m_edit(edit)
+    {
+        edit->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == m_edit && event->type() == QEvent::FontChange)
+            m_sheets.append(m_edit->styleSheet());
+        return false;
+    }
+
+    QStringList sheets() const
+    {
+        return m_sheets;
+    }
+
+private:
+    CLineEdit* m_edit;
+    QStringList m_sheets;
+};
+
 template <typename Class>
 int livingWidgets()
 {
@@ -417,8 +443,10 @@ void tst_lineedit::ownStyleSheetIsKeptByTheFont()
     CLineEdit edit;
     const QString sheet = "border: 0px; color: red;";
     edit.setStyleSheet(sheet);
+    SheetsOfFontChanges changes(&edit);
     edit.setFont(testing::testFont(17));
     QCOMPARE(edit.font().pixelSize(), 17);
+    QVERIFY(changes.sheets().contains(QString())); // the font was set without one
     QCOMPARE(edit.styleSheet(), sheet);
     edit.setStyleSheet(QString());
     edit.setFont(testing::testFont(18));
