@@ -133,8 +133,8 @@ void ControlsScreen::addIcons(int y)
 
 void ControlsScreen::addWrapModes(int y)
 {
-    const QString text = QLatin1String("Close the inlet valve before you open the chamber, then "
-                                       "wait for the green lamp.");
+    const QString text = QLatin1String("Close the inlet valve before opening the chamber, and "
+                                       "wait until the lamp is green.");
     const int width = 206;
     for (size_t i = 0; i < sizeof modes / sizeof modes[0]; ++i) {
         const int x = left + static_cast<int>(i) * (width + 11);
