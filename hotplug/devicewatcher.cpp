@@ -248,7 +248,7 @@ bool QDeviceWatcherPrivate::stop()
 /// Adds \a receiver to those that get events. A null one gets none.
 void QDeviceWatcherPrivate::appendEventReceiver(QObject* receiver)
 {
-    m_eventReceivers.append(QPointer<QObject>(receiver));
+    m_eventReceivers.append(Receiver(receiver));
     if (receiver)
         ReceiverBarrier::instance()->guard(receiver);
 }
@@ -292,7 +292,7 @@ void QDeviceWatcherPrivate::parseLine(const QByteArray& line)
 /// those that are gone.
 void QDeviceWatcherPrivate::postEvents(QDeviceChangeEvent::Action action, const QString& dev)
 {
-    QList<QPointer<QObject>> living;
+    QList<Receiver> living;
     for (int i = 0; i < m_eventReceivers.size(); ++i) {
         if (ReceiverBarrier::instance()->post(m_eventReceivers.at(i), action, dev))
             living.append(m_eventReceivers.at(i));

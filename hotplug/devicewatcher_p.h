@@ -72,7 +72,8 @@ private:
     void emitSignal(const char* name, const QString& dev);
     void postEvents(QDeviceChangeEvent::Action action, const QString& dev);
 
-    QList<QPointer<QObject>> m_eventReceivers;
+    typedef QPointer<QObject> Receiver; // named, as Qt 4's moc reads no closing >>
+    QList<Receiver> m_eventReceivers;
     QDeviceWatcher* m_watcher;
     QBuffer m_buffer;
     QSocketNotifier* m_notifier;
