@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# checkpackage.sh BUILD CONSUMER CMAKE CXX STANDARD SANITIZE
+# checkpackage.sh BUILD CONSUMER CMAKE CXX STANDARD SANITIZE GENERATOR
 set -euo pipefail
-build=$1 consumer=$2 cmake=$3 cxx=$4 standard=$5 sanitize=$6
+build=$1 consumer=$2 cmake=$3 cxx=$4 standard=$5 sanitize=$6 generator=$7
 
 stage=$(mktemp -d)
 trap 'rm -rf "$stage"' EXIT
@@ -40,7 +40,7 @@ test "$(wc -l <"$stage/all.cpp")" -ge 30
 "$cxx" -std=c++"$standard" -fsyntax-only "$stage/all.cpp" "${cflags[@]}"
 
 echo "== a consumer with CMake"
-"$cmake" -S "$consumer" -B "$stage/cmake" -DCMAKE_CXX_COMPILER="$cxx" \
+"$cmake" -S "$consumer" -B "$stage/cmake" -G "$generator" -DCMAKE_CXX_COMPILER="$cxx" \
     -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_FLAGS="$flags" >"$stage/cmake.log" ||
     { cat "$stage/cmake.log"; exit 1; }
 "$cmake" --build "$stage/cmake" >"$stage/build.log" || { cat "$stage/build.log"; exit 1; }
