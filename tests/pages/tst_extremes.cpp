@@ -47,6 +47,8 @@ private Q_SLOTS:
     void boxesOfEveryLength();
     void strangeTexts_data();
     void strangeTexts();
+    void paintingAPageOfAnyList_data();
+    void paintingAPageOfAnyList();
     void hugeList();
     void hugeBoxWithManyRestrictions();
 };
@@ -139,6 +141,30 @@ void tst_extremes::strangeTexts()
     QCOMPARE(log.size(), 2);
     box.setVisibleItem(strange);
     QCOMPARE(list->visibleItemsIndex(), QList<int>() << 1);
+}
+
+void tst_extremes::paintingAPageOfAnyList_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::newRow("10") << 10;
+    QTest::newRow("100") << 100;
+    QTest::newRow("1,000") << 1000;
+    QTest::newRow("10,000") << 10000;
+}
+
+/// However long the list is, what is painted of it is one page: the five rows, the area, the
+/// header, the page bar and the list itself. The arrows are opaque, so Qt leaves them as they are.
+void tst_extremes::paintingAPageOfAnyList()
+{
+    QFETCH(int, count);
+    CPageListWidget list;
+    list.addItems(numberedTexts(count));
+    list.show(count / 2);
+    QVERIFY(testcompat::waitForWindow(&list));
+    QCoreApplication::processEvents();
+    testing::EventCounter paints(QCoreApplication::instance(), QEvent::Paint);
+    list.repaint();
+    QCOMPARE(paints.count(), 9);
 }
 
 /// The time is written down, but no part of the test: machines differ.
