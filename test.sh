@@ -4,6 +4,7 @@
 #   ./test.sh                  Qt 5
 #   ./test.sh --qt 6           another generation of Qt
 #   ./test.sh --sanitize       with the Address, UndefinedBehavior and Leak sanitizers
+#   ./test.sh --threads        the tests with several threads, with the Thread sanitizer (Qt 5)
 #   ./test.sh --bench          the benchmarks
 #
 # What follows -- goes to ctest.
@@ -13,16 +14,22 @@ source tools/packages.sh
 
 qt=5
 sanitize=OFF
+threads=OFF
 bench=
 while [ $# -gt 0 ]; do
     case $1 in
         --qt) qt=${2:?--qt needs 5 or 6}; shift 2 ;;
         --sanitize) sanitize=ON; shift ;;
+        --threads) threads=ON; shift ;;
         --bench) bench=1; shift ;;
         --) shift; break ;;
-        *) sed -n '2,9s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
+        *) sed -n '2,10s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
     esac
 done
+if [ "$threads" = ON ] && [ "$qt" != 5 ]; then
+    echo "--threads is for Qt 5 only: what tests/support/qtthreads.cpp knows of Qt's locks is that" >&2
+    exit 2
+fi
 
 test_packages="clang-format-14 xvfb openbox xdotool x11-utils usbutils util-linux"
 # shellcheck disable=SC2046,SC2086
@@ -30,17 +37,24 @@ cwidget_install $(cwidget_build_packages "$qt") $(cwidget_run_packages "$qt") $t
 if [ -n "$bench" ]; then cwidget_install libbenchmark-dev; fi
 
 build=build/test-qt$qt
-options=(-DCWIDGET_QT_MAJOR="$qt" -DCWIDGET_WERROR=ON -DCWIDGET_SANITIZE="$sanitize")
+options=(-DCWIDGET_QT_MAJOR="$qt" -DCWIDGET_WERROR=ON -DCWIDGET_SANITIZE="$sanitize"
+         -DCWIDGET_SANITIZE_THREADS="$threads")
+targets=()
 if [ "$sanitize" = ON ]; then
     build+=-sanitize
     options+=(-DCMAKE_BUILD_TYPE=RelWithDebInfo)
+elif [ "$threads" = ON ]; then
+    build+=-threads
+    options+=(-DCMAKE_BUILD_TYPE=RelWithDebInfo)
+    targets=(--target threads)
+    set -- -L threads "$@"
 else
     options+=(-DCMAKE_BUILD_TYPE=Release)
 fi
 if [ -n "$bench" ]; then options+=(-DCWIDGET_BUILD_BENCHMARKS=ON); fi
 
 cmake -S . -B "$build" -G Ninja "${options[@]}"
-cmake --build "$build"
+cmake --build "$build" "${targets[@]}"
 
 if [ -n "$bench" ]; then exec cmake --build "$build" --target bench; fi
 

@@ -14,5 +14,12 @@ if(CWIDGET_SANITIZE)
   target_link_options(cwidget_compiler INTERFACE ${flags})
 endif()
 
+# The address and the thread sanitizer exclude each other.
+if(CWIDGET_SANITIZE_THREADS)
+  set(flags -fsanitize=thread -fno-omit-frame-pointer)
+  target_compile_options(cwidget_compiler INTERFACE ${flags} -O1 -g)
+  target_link_options(cwidget_compiler INTERFACE ${flags})
+endif()
+
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
