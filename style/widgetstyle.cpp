@@ -154,12 +154,27 @@ void restoreFile(const QString& path, const QByteArray& content)
         file.write(content);
 }
 
-bool writeDocument(QFile* file, const QDomDocument& document)
+QByteArray written(const QDomDocument& document)
 {
-    QTextStream stream(file);
+    QByteArray content;
+    QTextStream stream(&content, QIODevice::WriteOnly);
     document.save(stream, rewriteIndent);
     stream.flush();
-    return stream.status() == QTextStream::Ok && file->flush() && file->error() == QFile::NoError;
+    return content;
+}
+
+/// Whether \a content can be read again. The parser of trees lets characters in that its writer
+/// passes on as they are, and that no parser takes from there.
+bool isReadable(const QByteArray& content)
+{
+    QDomDocument document;
+    return parse(content, &document);
+}
+
+bool writeContent(QFile* file, const QByteArray& content)
+{
+    return file->write(content) == content.size() && file->flush() &&
+           file->error() == QFile::NoError;
 }
 
 } // namespace
@@ -243,8 +258,8 @@ WidgetStyle CWidgetStyle::getWidgetStyle(unsigned int& type, bool* ok)
 ///
 /// The style table is not touched: the new family takes effect with the next initialize(). A file
 /// without any font to change is left alone, and so is one that cannot be opened, parsed or opened
-/// for writing, which is told on the debug channel. When writing fails halfway, for example on a
-/// full disk, the old content is put back.
+/// for writing, or that could not be parsed any more afterwards, which is told on the debug
+/// channel. When writing fails halfway, for example on a full disk, the old content is put back.
 bool CWidgetStyle::setWidgetStyle(const QString& path, const QFont& font)
 {
     QByteArray content;
@@ -265,12 +280,17 @@ bool CWidgetStyle::setWidgetStyle(const QString& path, const QFont& font)
     }
     if (!changed)
         return false;
+    const QByteArray newContent = written(document);
+    if (!isReadable(newContent)) {
+        qDebug("%s", rewriteParseFailed);
+        return false;
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadWrite | QIODevice::Truncate)) {
         qDebug("%s", rewriteWriteFailed);
         return false;
     }
-    if (writeDocument(&file, document))
+    if (writeContent(&file, newContent))
         return true;
     file.close(); // drops what could not be written
     restoreFile(path, content);

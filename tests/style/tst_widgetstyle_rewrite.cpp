@@ -67,6 +67,8 @@ private Q_SLOTS:
     void sameFamilyRewritesToo();
     void missingFile();
     void unreadableXml();
+    void whatCouldNotBeReadAgain_data();
+    void whatCouldNotBeReadAgain();
     void readOnlyFile();
     void fullDiskPutsTheOldContentBack();
     void setStyleOfElements();
@@ -216,6 +218,35 @@ void tst_widgetstyle_rewrite::unreadableXml()
                                     "setWidgetStyle: [ widget-style.xml ]: can not parse."));
     QCOMPARE(messages.warnings(), QStringList());
     QCOMPARE(contentOf(path), content);
+}
+
+void tst_widgetstyle_rewrite::whatCouldNotBeReadAgain_data()
+{
+    QTest::addColumn<QByteArray>("reference");
+    QTest::newRow("NUL") << QByteArray("&#0;");
+    QTest::newRow("control") << QByteArray("&#1;");
+    QTest::newRow("half a character") << QByteArray("&#xD800;");
+    QTest::newRow("no character") << QByteArray("&#xFFFF;");
+    QTest::newRow("above all planes") << QByteArray("&#x110000;");
+}
+
+/// The parser of some versions of Qt lets such characters in; written as they are, they would make
+/// the file one that no panel can start with.
+void tst_widgetstyle_rewrite::whatCouldNotBeReadAgain()
+{
+    QFETCH(QByteArray, reference);
+    const TemporaryFolder folder;
+    const QByteArray content =
+        "<root><widget name=\"a" + reference + "b\"><FieldAll><font/></FieldAll></widget></root>";
+    const QString path = folder.write(QLatin1String("style.xml"), content);
+    Messages messages;
+    if (!CWidgetStyle::setWidgetStyle(path, family("Courier"))) {
+        QCOMPARE(messages.debugs(), QStringList() << QLatin1String(
+                                        "setWidgetStyle: [ widget-style.xml ]: can not parse."));
+        QCOMPARE(contentOf(path), content);
+        return;
+    }
+    QVERIFY(CWidgetStyle::initialize(path));
 }
 
 void tst_widgetstyle_rewrite::readOnlyFile()
