@@ -6,6 +6,7 @@
 #   ./test.sh --sanitize       with the Address, UndefinedBehavior and Leak sanitizers
 #   ./test.sh --threads        the tests with several threads, with the Thread sanitizer (Qt 5)
 #   ./test.sh --bench          the benchmarks
+#   ./test.sh --fuzz SECONDS   each fuzzer for so long; 0 replays their seeds only (Qt 5)
 #
 # What follows -- goes to ctest.
 set -euo pipefail
@@ -16,14 +17,16 @@ qt=5
 sanitize=OFF
 threads=OFF
 bench=
+fuzz=
 while [ $# -gt 0 ]; do
     case $1 in
         --qt) qt=${2:?--qt needs 5 or 6}; shift 2 ;;
         --sanitize) sanitize=ON; shift ;;
         --threads) threads=ON; shift ;;
         --bench) bench=1; shift ;;
+        --fuzz) fuzz=${2:?--fuzz needs a number of seconds}; shift 2 ;;
         --) shift; break ;;
-        *) sed -n '2,10s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
+        *) sed -n '2,11s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
     esac
 done
 if [ "$threads" = ON ] && [ "$qt" != 5 ]; then
@@ -35,6 +38,7 @@ test_packages="clang-format-14 xvfb openbox xdotool x11-utils usbutils util-linu
 # shellcheck disable=SC2046,SC2086
 cwidget_install $(cwidget_build_packages "$qt") $(cwidget_run_packages "$qt") $test_packages
 if [ -n "$bench" ]; then cwidget_install libbenchmark-dev; fi
+if [ -n "$fuzz" ]; then cwidget_install clang-14 libclang-rt-14-dev; fi
 
 build=build/test-qt$qt
 options=(-DCWIDGET_QT_MAJOR="$qt" -DCWIDGET_WERROR=ON -DCWIDGET_SANITIZE="$sanitize"
@@ -48,6 +52,12 @@ elif [ "$threads" = ON ]; then
     options+=(-DCMAKE_BUILD_TYPE=RelWithDebInfo)
     targets=(--target threads)
     set -- -L threads "$@"
+elif [ -n "$fuzz" ]; then
+    build=build/fuzz-qt$qt
+    options+=(-DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++-14
+              -DCWIDGET_BUILD_FUZZERS=ON -DCWIDGET_FUZZ_SECONDS="$fuzz"
+              -DBUILD_TESTING=OFF -DCWIDGET_BUILD_EXAMPLES=OFF)
+    targets=(--target fuzz)
 else
     options+=(-DCMAKE_BUILD_TYPE=Release)
 fi
@@ -56,6 +66,7 @@ if [ -n "$bench" ]; then options+=(-DCWIDGET_BUILD_BENCHMARKS=ON); fi
 cmake -S . -B "$build" -G Ninja "${options[@]}"
 cmake --build "$build" "${targets[@]}"
 
+if [ -n "$fuzz" ]; then exit; fi
 if [ -n "$bench" ]; then exec cmake --build "$build" --target bench; fi
 
 cd "$build"

@@ -21,5 +21,13 @@ if(CWIDGET_SANITIZE_THREADS)
   target_link_options(cwidget_compiler INTERFACE ${flags})
 endif()
 
+# The programs of fuzz/ link the fuzzer itself.
+if(CWIDGET_BUILD_FUZZERS)
+  set(flags -fsanitize=address,undefined,fuzzer-no-link -fno-sanitize-recover=undefined
+    -fno-omit-frame-pointer)
+  target_compile_options(cwidget_compiler INTERFACE ${flags} -O1 -g)
+  target_link_options(cwidget_compiler INTERFACE ${flags})
+endif()
+
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
