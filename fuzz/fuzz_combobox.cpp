@@ -12,7 +12,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QMouseEvent>
 
 namespace
 {
@@ -153,7 +152,7 @@ private:
     void page()
     {
         const QList<CPushButton*> arrows = m_list->findChildren<CPushButton*>();
-        touch(arrows.at(m_data->ConsumeBool() ? 0 : 1));
+        fuzzing::touch(arrows.at(m_data->ConsumeBool() ? 0 : 1));
     }
 
     void touchRow()
@@ -161,7 +160,7 @@ private:
         const QList<CPageListWidgetItem*> rows = m_list->findChildren<CPageListWidgetItem*>();
         for (int i = 0; i < rows.size(); ++i) {
             if (rows.at(i)->isVisible() && m_data->ConsumeBool()) {
-                touch(rows.at(i));
+                fuzzing::touch(rows.at(i));
                 return;
             }
         }
@@ -173,20 +172,6 @@ private:
                                    Qt::Key_PageUp, Qt::Key_F4,   Qt::Key_A,    Qt::Key_Escape};
         QKeyEvent press(QEvent::KeyPress, m_data->PickValueInArray(keys), Qt::NoModifier);
         QApplication::sendEvent(&m_box, &press);
-    }
-
-    void touch(QWidget* widget)
-    {
-        send(widget, QEvent::MouseButtonPress, Qt::LeftButton);
-        send(widget, QEvent::MouseButtonRelease, Qt::NoButton);
-    }
-
-    void send(QWidget* widget, QEvent::Type type, Qt::MouseButtons buttons)
-    {
-        const QPoint middle = widget->rect().center();
-        QMouseEvent event(type, middle, widget->mapToGlobal(middle), Qt::LeftButton, buttons,
-                          Qt::NoModifier);
-        QApplication::sendEvent(widget, &event);
     }
 
     void check()

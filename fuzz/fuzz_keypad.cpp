@@ -9,7 +9,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QTextCursor>
 
 namespace
@@ -72,7 +71,7 @@ private:
             moveCursor();
             break;
         default: // fingers are what it is for
-            touch(m_keys.at(m_data->ConsumeIntegralInRange<int>(0, m_keys.size() - 1)));
+            fuzzing::touch(m_keys.at(m_data->ConsumeIntegralInRange<int>(0, m_keys.size() - 1)));
         }
     }
 
@@ -95,20 +94,6 @@ private:
                            m_data->ConsumeBool() ? QTextCursor::KeepAnchor
                                                  : QTextCursor::MoveAnchor);
         m_edit->setTextCursor(cursor);
-    }
-
-    void touch(QWidget* key)
-    {
-        send(key, QEvent::MouseButtonPress, Qt::LeftButton);
-        send(key, QEvent::MouseButtonRelease, Qt::NoButton);
-    }
-
-    void send(QWidget* widget, QEvent::Type type, Qt::MouseButtons buttons)
-    {
-        const QPoint middle = widget->rect().center();
-        QMouseEvent event(type, middle, widget->mapToGlobal(middle), Qt::LeftButton, buttons,
-                          Qt::NoModifier);
-        QApplication::sendEvent(widget, &event);
     }
 
     void close()

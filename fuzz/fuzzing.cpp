@@ -1,7 +1,7 @@
 #include "fuzzing.h"
 
 #include <QApplication>
-#include <QPainter>
+#include <QMouseEvent>
 #include <QWidget>
 
 #include <cstdio>
@@ -18,6 +18,14 @@ void dropMessage(QtMsgType type, const QMessageLogContext& context, const QStrin
         return;
     std::fprintf(stderr, "%s\n", qPrintable(text));
     std::abort();
+}
+
+void send(QWidget* widget, QEvent::Type type, Qt::MouseButtons buttons)
+{
+    const QPoint middle = widget->rect().center();
+    QMouseEvent event(type, middle, widget->mapToGlobal(middle), Qt::LeftButton, buttons,
+                      Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
 }
 
 } // namespace
@@ -60,4 +68,10 @@ QImage fuzzing::render(QWidget* widget)
     image.fill(Qt::magenta);
     widget->render(&image);
     return image;
+}
+
+void fuzzing::touch(QWidget* widget)
+{
+    send(widget, QEvent::MouseButtonPress, Qt::LeftButton);
+    send(widget, QEvent::MouseButtonRelease, Qt::NoButton);
 }

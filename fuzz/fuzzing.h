@@ -24,6 +24,9 @@ QString text(FuzzedDataProvider* data, size_t length);
 /// Lets \a widget paint itself at its size, which must be a reasonable one.
 QImage render(QWidget* widget);
 
+/// A finger on the middle of \a widget, lifted again.
+void touch(QWidget* widget);
+
 } // namespace fuzzing
 
 #endif
