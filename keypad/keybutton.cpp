@@ -1,5 +1,8 @@
 #include "keypad/keybutton.h"
 
+#include "style/qtcompat.h"
+
+#include <QCoreApplication>
 #include <QPainter>
 #include <QPen>
 #include <QPointer>
@@ -79,6 +82,16 @@ void CKeyButton::mouseReleaseEvent(QMouseEvent* event)
     CPushButton::mouseReleaseEvent(event);
     if (self && isEnabled())
         updateStatus(Selected);
+}
+
+/// The second of two quick touches is a press like every other, also for whoever watches the key:
+/// no letter of a word like "hello" gets lost.
+void CKeyButton::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const QPoint pos = qtcompat::eventPos(event);
+    QMouseEvent press(QEvent::MouseButtonPress, pos, mapToGlobal(pos), event->button(),
+                      event->buttons(), event->modifiers());
+    QCoreApplication::sendEvent(this, &press);
 }
 
 void CKeyButton::paintEvent(QPaintEvent* event)

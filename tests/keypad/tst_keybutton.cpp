@@ -77,6 +77,7 @@ private Q_SLOTS:
     void releaseOutsideLooksSelectedToo();
     void touchDoesNotSelect();
     void touchIsAClick();
+    void quickSecondTouchIsAPressToo();
     void disabledKeyKeepsItsLook();
     void missingAttributesKeepTheLook();
     void backspaceDrawsAnArrow_data();
@@ -211,6 +212,25 @@ void tst_keybutton::touchIsAClick()
     QCOMPARE(pressed.count(), 1);
     QCOMPARE(released.count(), 1);
     QCOMPARE(clicked.count(), 1);
+}
+
+void tst_keybutton::quickSecondTouchIsAPressToo()
+{
+    LookingKey key;
+    testing::EventCounter presses(&key, QEvent::MouseButtonPress);
+    QSignalSpy pressed(&key, SIGNAL(pressed()));
+    QSignalSpy clicked(&key, SIGNAL(clicked()));
+    touch(&key);
+    testing::pressAgain(&key);
+    QCOMPARE(key.look(), QColor(Qt::red));
+    release(&key);
+    QCOMPARE(key.look(), QColor(Qt::blue));
+    QCOMPARE(presses.count(), 2);
+    QCOMPARE(pressed.count(), 2);
+    QCOMPARE(clicked.count(), 2);
+    key.setEnabled(false);
+    testing::pressAgain(&key);
+    QCOMPARE(presses.count(), 2);
 }
 
 void tst_keybutton::disabledKeyKeepsItsLook()

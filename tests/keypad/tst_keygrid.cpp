@@ -152,6 +152,8 @@ private Q_SLOTS:
     void pressedKeyKeepsItsSelectedLook();
     void samePressTwiceIsReportedTwice_data();
     void samePressTwiceIsReportedTwice();
+    void quickSecondTouchIsReported_data();
+    void quickSecondTouchIsReported();
     void nullPressDeselectsAndReportsNothing_data();
     void nullPressDeselectsAndReportsNothing();
     void appendedKeyIsWatched_data();
@@ -200,6 +202,7 @@ GRID_ROWS(everyKeyIsReported)
 GRID_ROWS(firstPressDeselectsApply)
 GRID_ROWS(pressedKeyKeepsItsSelectedLook)
 GRID_ROWS(samePressTwiceIsReportedTwice)
+GRID_ROWS(quickSecondTouchIsReported)
 GRID_ROWS(nullPressDeselectsAndReportsNothing)
 GRID_ROWS(appendedKeyIsWatched)
 GRID_ROWS(appendingNullIsIgnored)
@@ -348,6 +351,18 @@ void tst_keygrid::samePressTwiceIsReportedTwice()
     CKeyButton* key = keyOf(m_pad, m_row.otherKey);
     touch(key);
     touch(key);
+    QCOMPARE(changes.count(), 2);
+    QCOMPARE(changes.at(0), changes.at(1));
+    QVERIFY(key->isSelected());
+}
+
+void tst_keygrid::quickSecondTouchIsReported()
+{
+    QSignalSpy changes(m_pad, SIGNAL(currentKeyChanged(QString, int)));
+    CKeyButton* key = keyOf(m_pad, m_row.otherKey);
+    touch(key);
+    testing::pressAgain(key);
+    testing::release(key);
     QCOMPARE(changes.count(), 2);
     QCOMPARE(changes.at(0), changes.at(1));
     QVERIFY(key->isSelected());

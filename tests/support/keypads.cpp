@@ -226,6 +226,14 @@ void release(QWidget* key)
     QTest::mouseRelease(key, Qt::LeftButton);
 }
 
+void pressAgain(QWidget* key)
+{
+    const QPoint middle = key->rect().center();
+    QMouseEvent event(QEvent::MouseButtonDblClick, middle, key->mapToGlobal(middle), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(key, &event);
+}
+
 void deleteDeferred()
 {
     QCoreApplication::sendPostedEvents(0, QEvent::DeferredDelete);

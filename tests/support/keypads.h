@@ -65,6 +65,9 @@ void touch(QWidget* key);
 void press(QWidget* key);
 void release(QWidget* key);
 
+/// What Qt makes of a press that quickly follows another one.
+void pressAgain(QWidget* key);
+
 /// Deletes what waits for being deleted.
 void deleteDeferred();
 
