@@ -1,10 +1,9 @@
 // Line edits and their keypads under a finger that the X server knows of.
 
+#include "support/desktopmain.h"
 #include "support/keypads.h"
-#include "support/xserver.h"
 #include "widgets/lineedit.h"
 
-#include <QApplication>
 #include <QSignalSpy>
 
 using testing::keyOf;
@@ -61,6 +60,7 @@ class tst_keypad_touch : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void keypadStandsOverTheMiddleOfTheWindow();
     void everyTouchCountsHoweverQuick();
     void liftedFingerAfterApplyReachesNothing();
@@ -69,6 +69,11 @@ private Q_SLOTS:
     void fieldDeletedWhileItsKeypadIsOpen_data();
     void fieldDeletedWhileItsKeypadIsOpen();
 };
+
+void tst_keypad_touch::initTestCase()
+{
+    QApplication::setQuitOnLastWindowClosed(false); // that would end the loops of the tests
+}
 
 void tst_keypad_touch::keypadStandsOverTheMiddleOfTheWindow()
 {
@@ -209,17 +214,5 @@ void tst_keypad_touch::fieldDeletedWhileItsKeypadIsOpen()
     QTRY_COMPARE(others.top->text(), QString("7"));
 }
 
-int main(int argc, char** argv)
-{
-    const testing::XServer server;
-    if (!server.error().isEmpty()) {
-        fprintf(stderr, "FAIL!  : %s\n", qPrintable(server.error()));
-        return 1;
-    }
-    QApplication application(argc, argv);
-    application.setQuitOnLastWindowClosed(false);
-    tst_keypad_touch test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+CWIDGET_DESKTOP_TEST_MAIN(tst_keypad_touch)
 #include "tst_keypad_touch.moc"
