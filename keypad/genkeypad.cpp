@@ -110,10 +110,7 @@ bool CGenKeyPad::initialize()
 {
     if (layout())
         return true;
-    const QList<CKeyButton*> built = keygrid::build(this, plan);
-    for (int i = 0; i < built.size(); ++i)
-        appendKey(built.at(i));
-    m_selectedKey = keygrid::selectApply(m_keys);
+    m_selectedKey = keygrid::build(this, plan, &m_keys);
     return true;
 }
 

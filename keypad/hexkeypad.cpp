@@ -74,10 +74,7 @@ bool CHexKeyPad::initialize()
 {
     if (layout())
         return true;
-    const QList<CKeyButton*> built = keygrid::build(this, plan);
-    for (int i = 0; i < built.size(); ++i)
-        appendKey(built.at(i));
-    m_selectedKey = keygrid::selectApply(m_keys);
+    m_selectedKey = keygrid::build(this, plan, &m_keys);
     return true;
 }
 

@@ -52,16 +52,16 @@ QPixmap Pictures::get(CWidgetStyle::KeyStatus status)
     return found.value();
 }
 
-/// Lays out the keys of \a plan on \a grid, whose children they become in the order of the table.
-/// Returns them without the blank ones.
-QList<CKeyButton*> build(QWidget* grid, const Plan& plan)
+/// Lays out the keys of \a plan on \a grid, whose children they become in the order of the table,
+/// and has the grid watch all but the blank ones, which it adds to \a keys. Selects the key that
+/// accepts the entry, as a new grid shows it, and returns it.
+CKeyButton* build(QWidget* grid, const Plan& plan, QList<CKeyButton*>* keys)
 {
     QVBoxLayout* column = new QVBoxLayout(grid);
     column->setContentsMargins(plan.leftMargin, plan.topMargin, plan.rightMargin,
                                plan.bottomMargin);
     if (plan.spacing != inheritedSpacing)
         column->setSpacing(plan.spacing);
-    QList<CKeyButton*> keys;
     Pictures pictures;
     const Key* next = plan.keys;
     for (int i = 0; i < plan.rowCount; ++i) {
@@ -74,13 +74,15 @@ QList<CKeyButton*> build(QWidget* grid, const Plan& plan)
                 setUpBlankKey(key);
             } else {
                 setUpKey(key, *next, &pictures);
-                keys.append(key);
+                watch(grid, keys, key);
             }
             row->addWidget(key);
         }
         row->addStretch();
     }
-    return keys;
+    CKeyButton* apply = keyOf(*keys, Key_Apply);
+    apply->setSelected(true);
+    return apply;
 }
 
 /// Gives \a key the pictures from \a pressed on, and white text, black while it is selected.
@@ -107,14 +109,12 @@ void watch(QObject* grid, QList<CKeyButton*>* keys, CKeyButton* key)
     key->installEventFilter(grid);
 }
 
-/// Selects the key that accepts the entry, as a new grid shows it, and returns it.
-CKeyButton* selectApply(const QList<CKeyButton*>& keys)
+/// The first of \a keys with that \a code; null when there is none.
+CKeyButton* keyOf(const QList<CKeyButton*>& keys, int code)
 {
     for (int i = 0; i < keys.size(); ++i) {
-        if (keys.at(i)->key() != Key_Apply)
-            continue;
-        keys.at(i)->setSelected(true);
-        return keys.at(i);
+        if (keys.at(i)->key() == code)
+            return keys.at(i);
     }
     return 0;
 }

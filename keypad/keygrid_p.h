@@ -57,16 +57,16 @@ private:
     QMap<int, QPixmap> m_read;
 };
 
-QList<CKeyButton*> build(QWidget* grid, const Plan& plan);
+CKeyButton* build(QWidget* grid, const Plan& plan, QList<CKeyButton*>* keys);
 void setLook(CKeyButton* key, CWidgetStyle::KeyStatus pressed, Pictures* pictures);
 
 void watch(QObject* grid, QList<CKeyButton*>* keys, CKeyButton* key);
-CKeyButton* selectApply(const QList<CKeyButton*>& keys);
+CKeyButton* keyOf(const QList<CKeyButton*>& keys, int code);
 void select(CKeyButton** selected, CKeyButton** current, CKeyButton* key);
 
 /// The event filter of \a grid: hands a pressed key to its keyPress(). The press goes on to the
-/// key, unless a slot has deleted that. Only a press counts, not what Qt delivers as a double
-/// click.
+/// key, unless a slot has deleted that. A double click, as which Qt delivers the second of two
+/// quick touches, is none: the key makes a press of it.
 template <typename Grid>
 bool filterPress(Grid* grid, QObject* watched, QEvent* event)
 {

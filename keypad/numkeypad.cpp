@@ -51,15 +51,6 @@ const keygrid::Plan plan = {
     keys, rows, sizeof rows / sizeof rows[0], 0, 20, 0, 100, keygrid::inheritedSpacing,
 };
 
-CKeyButton* keyOf(const QList<CKeyButton*>& keys, int code)
-{
-    for (int i = 0; i < keys.size(); ++i) {
-        if (keys.at(i)->key() == code)
-            return keys.at(i);
-    }
-    return 0;
-}
-
 } // namespace
 
 /// The grid with all its keys, "Apply" selected, put into \a mode.
@@ -79,11 +70,8 @@ bool CNumKeyPad::initialize()
 {
     if (layout())
         return true;
-    const QList<CKeyButton*> built = keygrid::build(this, plan);
-    for (int i = 0; i < built.size(); ++i)
-        appendKey(built.at(i));
-    m_signKey = keyOf(m_keys, Key_PlusMinus);
-    m_selectedKey = keygrid::selectApply(m_keys);
+    m_selectedKey = keygrid::build(this, plan, &m_keys);
+    m_signKey = keygrid::keyOf(m_keys, Key_PlusMinus);
     return true;
 }
 

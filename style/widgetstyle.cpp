@@ -147,13 +147,6 @@ WidgetStyle readWidget(const QDomElement& element)
     return style;
 }
 
-void restoreFile(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        file.write(content);
-}
-
 QByteArray written(const QDomDocument& document)
 {
     QByteArray content;
@@ -175,6 +168,26 @@ bool writeContent(QFile* file, const QByteArray& content)
 {
     return file->write(content) == content.size() && file->flush() &&
            file->error() == QFile::NoError;
+}
+
+/// Puts \a content back where writing another one has failed.
+void restoreFile(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        writeContent(&file, content);
+}
+
+/// Gives every font of every field in \a document the family of \a font. False when there is none.
+bool setFamily(const QDomDocument& document, const QFont& font)
+{
+    bool changed = false;
+    QDomElement widget = nextWidget(document.documentElement().firstChild());
+    for (; !widget.isNull(); widget = nextWidget(widget.nextSibling())) {
+        for (size_t i = 0; i < fieldCount(); ++i)
+            changed |= CWidgetStyle::setStyle(fieldElement(widget, i), font);
+    }
+    return changed;
 }
 
 } // namespace
@@ -272,13 +285,7 @@ bool CWidgetStyle::setWidgetStyle(const QString& path, const QFont& font)
         qDebug("%s", rewriteParseFailed);
         return false;
     }
-    bool changed = false;
-    QDomElement widget = nextWidget(document.documentElement().firstChild());
-    for (; !widget.isNull(); widget = nextWidget(widget.nextSibling())) {
-        for (size_t i = 0; i < fieldCount(); ++i)
-            changed |= setStyle(fieldElement(widget, i), font);
-    }
-    if (!changed)
+    if (!setFamily(document, font))
         return false;
     const QByteArray newContent = written(document);
     if (!isReadable(newContent)) {

@@ -2,9 +2,12 @@
 
 #include <QDir>
 
+#include <cerrno>
+
 #include <fcntl.h>
 #include <linux/netlink.h>
 #include <sys/socket.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace testing
@@ -12,6 +15,9 @@ namespace testing
 
 namespace
 {
+
+const CWidgetStyle::DeviceType kinds[] = {CWidgetStyle::DeviceKeyboard, CWidgetStyle::DeviceMouse,
+                                          CWidgetStyle::DeviceStorage};
 
 int socketOption(int descriptor, int option)
 {
@@ -49,6 +55,27 @@ int openDescriptors()
 QByteArray datagram(const char* text)
 {
     return QByteArray(text).replace('|', '\0');
+}
+
+void setAll(bool available)
+{
+    for (int i = 0; i < 3; ++i)
+        CWidgetStyle::setDeviceAvailable(kinds[i], available);
+}
+
+QString registry()
+{
+    QString letters;
+    for (int i = 0; i < 3; ++i) {
+        if (CWidgetStyle::isDeviceAvailable(kinds[i]))
+            letters += QLatin1Char("kms"[i]);
+    }
+    return letters;
+}
+
+bool hasChildProcesses()
+{
+    return !(waitpid(-1, 0, WNOHANG) == -1 && errno == ECHILD);
 }
 
 // ---- FakeKernel

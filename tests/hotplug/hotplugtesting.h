@@ -20,6 +20,14 @@ int openDescriptors();
 /// The notification in \a text, where bars stand for the NUL bytes that end the fields.
 QByteArray datagram(const char* text);
 
+/// Notes all kinds of devices as attached or not.
+void setAll(bool available);
+
+/// What the registry says, a letter for each attached kind: of keyboard, mouse and storage.
+QString registry();
+
+bool hasChildProcesses();
+
 /// Takes the place of the kernel at the other end of a running watcher's socket.
 class FakeKernel
 {

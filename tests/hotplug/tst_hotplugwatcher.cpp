@@ -4,37 +4,12 @@
 #include "hotplug/hotplugtesting.h"
 #include "style/qtcompat.h"
 
-#include <cerrno>
-
-#include <sys/wait.h>
+using testing::hasChildProcesses;
+using testing::registry;
+using testing::setAll;
 
 namespace
 {
-
-const CWidgetStyle::DeviceType kinds[] = {CWidgetStyle::DeviceKeyboard, CWidgetStyle::DeviceMouse,
-                                          CWidgetStyle::DeviceStorage};
-
-void setAll(bool available)
-{
-    for (int i = 0; i < 3; ++i)
-        CWidgetStyle::setDeviceAvailable(kinds[i], available);
-}
-
-/// What the registry says, a letter for each attached kind: of keyboard, mouse and storage.
-QString registry()
-{
-    QString letters;
-    for (int i = 0; i < 3; ++i) {
-        if (CWidgetStyle::isDeviceAvailable(kinds[i]))
-            letters += QLatin1Char("kms"[i]);
-    }
-    return letters;
-}
-
-bool hasChildProcesses()
-{
-    return !(waitpid(-1, 0, WNOHANG) == -1 && errno == ECHILD);
-}
 
 /// Asks the thread it lives in to do something.
 class Worker : public QObject
