@@ -157,7 +157,8 @@ void CPageListWidgetItemArea::updateStatus()
     resumeLayout();
     for (int i = 0; i < m_visibleItems.size(); ++i) {
         CPageListWidgetItem* item = m_visibleItems.at(i);
-        item->setSelect(item->index() == m_currentIndex && item->isVisible());
+        if (item->isActive())
+            item->setSelect(item->index() == m_currentIndex && item->isVisible());
     }
 }
 
@@ -225,24 +226,25 @@ void CPageListWidgetItemArea::mouseReleaseEvent(QMouseEvent* event)
     CPageListWidgetItem* chosen = m_releasedItem == m_pressedItem ? m_releasedItem : 0;
     m_pressedItem = 0;
     m_releasedItem = 0;
-    if (!chosen)
-        return;
-    event->accept(); // Qt must not pass it on to parents that a slot deleted
-    choose(chosen);
+    const QPointer<CPageListWidgetItemArea> self(this); // a slot may delete the area
+    if (chosen)
+        choose(chosen);
+    if (!self)
+        event->accept(); // else Qt passes it on to the parents, which may be gone as well
 }
 
-/// The row that was marked before keeps its mark until the next updateStatus(), wanted so.
+/// The row that was marked before keeps its mark until the next updateStatus(), wanted so. The
+/// index is told as the slots of the text have left it.
 void CPageListWidgetItemArea::choose(CPageListWidgetItem* item)
 {
     item->setSelect(true);
     const QString text = item->text();
-    const int index = item->index();
     m_currentText = text;
-    m_currentIndex = index;
+    m_currentIndex = item->index();
     const QPointer<CPageListWidgetItemArea> self(this); // a slot may delete the area or its rows
     Q_EMIT currentItemChanged(text);
     if (self)
-        Q_EMIT currentItemChanged(index);
+        Q_EMIT currentItemChanged(m_currentIndex);
 }
 
 void CPageListWidgetItemArea::mouseMoveEvent(QMouseEvent* event)

@@ -90,6 +90,7 @@ private Q_SLOTS:
     void nothingIsMarkedBeforeTheAreaIsOnScreen();
     void markMovesWithTheCurrentIndex();
     void inactiveRowsAreLeftAlone();
+    void inactiveRowsKeepTheirMark();
     void clearRemovesEverything();
     void paintsItsGround();
 };
@@ -209,6 +210,7 @@ void tst_pagelistwidgetitemarea::pageThatDoesNotExistLeavesTheRows_data()
     QTest::newRow("past the last") << 3;
     QTest::newRow("far past the last") << 2000000000;
     QTest::newRow("far before the first") << -2000000000;
+    QTest::newRow("the first row past what an int holds") << 858993460; // 5 * it is 2^32 + 4
 }
 
 void tst_pagelistwidgetitemarea::pageThatDoesNotExistLeavesTheRows()
@@ -331,6 +333,20 @@ void tst_pagelistwidgetitemarea::inactiveRowsAreLeftAlone()
     rowsOf(area).at(3)->show();
     area.setMaxVisibleRows(2);
     QCOMPARE(shownRows(area), text("0 1 3"));
+}
+
+void tst_pagelistwidgetitemarea::inactiveRowsKeepTheirMark()
+{
+    FilledArea area(5);
+    area.setCurrentIndex(2);
+    rowsOf(area).at(2)->setActive(false);
+    area.setCurrentIndex(3);
+    QCOMPARE(markedRows(area), text("2 3"));
+    rowsOf(area).at(3)->setActive(false);
+    rowsOf(area).at(3)->setSelect(false);
+    rowsOf(area).at(3)->show();
+    area.updateStatus();
+    QCOMPARE(markedRows(area), text("2"));
 }
 
 void tst_pagelistwidgetitemarea::clearRemovesEverything()

@@ -97,6 +97,9 @@ private Q_SLOTS:
     void clearKeepsTheCurrentText();
     void areaMayDieInItsSignals();
     void rowsMayGoInTheSignals();
+    void indexIsTheOneAtThatMoment();
+    void releaseReachesTheParent();
+    void releaseStopsWhereTheAreaWasDeleted();
     void slotsSeeTheNewEntry();
     void rowDeletedUnderTheMouse();
 };
@@ -292,7 +295,48 @@ void tst_pagelistwidgetitemarea_touch::rowsMayGoInTheSignals()
         area->addItems(numberedTexts(2));
     });
     QTest::mouseClick(f.row(3), Qt::LeftButton);
-    QCOMPARE(f.log, QStringList() << text("text(item 3)") << text("index(3)"));
+    QCOMPARE(f.log, QStringList() << text("text(item 3)") << text("index(0)"));
+}
+
+void tst_pagelistwidgetitemarea_touch::indexIsTheOneAtThatMoment()
+{
+    Fixture f(5);
+    CPageListWidgetItemArea* area = f.area;
+    Reaction reaction(area, SIGNAL(currentItemChanged(QString)),
+                      [area]() { area->setCurrentIndex(1); });
+    QTest::mouseClick(f.row(3), Qt::LeftButton);
+    QCOMPARE(f.log, QStringList() << text("text(item 3)") << text("index(1)"));
+    QCOMPARE(area->currentText(), text("item 3"));
+}
+
+void tst_pagelistwidgetitemarea_touch::releaseReachesTheParent()
+{
+    QWidget parent;
+    Fixture f(5);
+    f.area->setParent(&parent);
+    parent.show();
+    f.area->show();
+    testing::EventCounter releases(&parent, QEvent::MouseButtonRelease);
+    QTest::mouseClick(f.row(2), Qt::LeftButton);
+    QCOMPARE(f.log.size(), 2);
+    QCOMPARE(releases.count(), 1);
+    QTest::mouseClick(f.area, Qt::LeftButton, Qt::NoModifier, QPoint(100, 147)); // beside the rows
+    QCOMPARE(releases.count(), 2);
+}
+
+void tst_pagelistwidgetitemarea_touch::releaseStopsWhereTheAreaWasDeleted()
+{
+    QWidget parent;
+    Fixture f(5);
+    f.area->setParent(&parent);
+    parent.show();
+    f.area->show();
+    testing::EventCounter releases(&parent, QEvent::MouseButtonRelease);
+    CPageListWidgetItemArea* area = f.area;
+    Reaction reaction(area, SIGNAL(currentItemChanged(int)), [area]() { delete area; });
+    QTest::mouseClick(f.row(2), Qt::LeftButton);
+    QVERIFY(!f.area);
+    QCOMPARE(releases.count(), 0);
 }
 
 void tst_pagelistwidgetitemarea_touch::slotsSeeTheNewEntry()
