@@ -1,5 +1,6 @@
 #include "pages/combobox.h"
 
+#include "pages/comboboxrow_p.h"
 #include "pages/pagelistwidget.h"
 #include "style/qtcompat.h"
 #include "style/stylewalk_p.h"
@@ -40,15 +41,12 @@ CComboBox::CComboBox(QWidget* parent)
       m_autoStyleEnabled(true),
       m_pageList(new CPageListWidget(this)),
       m_borderVisible(true),
-      m_rowChanges(0),
-      m_holds(0)
+      m_row(new ComboBoxRow(this))
 {
     m_pageList->hide();
     setFixedHeight(boxHeight);
     setStyleSheet(QLatin1String(boxStyleSheet));
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), 0));
-    qtcompat::connectComboRowText(this, SLOT(changeCurrentText(QString)), SLOT(countRowChange(int)),
-                                  SLOT(followRowChange(QString)));
     connect(this, qtcompat::comboTextActivatedSignal(), this, SLOT(itemActivated(QString)));
     connect(m_pageList, SIGNAL(currentItemChanged(QString)), this,
             SLOT(changeCurrentItem(QString)));
@@ -57,6 +55,7 @@ CComboBox::CComboBox(QWidget* parent)
 
 CComboBox::~CComboBox()
 {
+    delete m_row;
 }
 
 /// Makes \a texts the table of entries, all of them offered, with the first one shown, unless the
@@ -159,9 +158,12 @@ void CComboBox::fill(const QStringList& texts, int current)
         setCurrentIndex(current);
     } else {
         blockSignals(wasBlocked);
-        holdTexts();
-        QComboBox::addItems(texts);
-        releaseTexts();
+        QStringList waiting;
+        {
+            const ComboBoxRow::Hold hold(m_row, &waiting);
+            QComboBox::addItems(texts);
+        }
+        tellTexts(waiting);
     }
 }
 
@@ -290,40 +292,43 @@ int CComboBox::rowOf(const QString& text) const
 }
 
 /// Makes \a row that of the closed box.
-void CComboBox::changeRow(int row)
+void CComboBox::showRow(int row)
 {
     const bool isRow = row >= 0 && row < count();
-    if (!isRow && QComboBox::currentIndex() < 0)
-        return; // Qt 6 would announce once more that no row is current
-    holdTexts();
-    QComboBox::setCurrentIndex(row);
-    releaseTexts();
+    if (isRow || QComboBox::currentIndex() >= 0) // Qt 6 would announce once more that there is none
+        QComboBox::setCurrentIndex(row);
 }
 
-/// Until releaseTexts(), currentValueChanged() waits with its texts: Qt's box does not survive
-/// being deleted by a slot while it changes its row, after that it may.
-void CComboBox::holdTexts()
+/// Makes \a row that of the closed box and then tells its text, if it is another one.
+void CComboBox::changeRow(int row)
 {
-    ++m_holds;
+    QStringList waiting;
+    {
+        const ComboBoxRow::Hold hold(m_row, &waiting);
+        showRow(row);
+    }
+    tellTexts(waiting);
 }
 
-void CComboBox::releaseTexts()
+/// Emits currentValueChanged() with each of \a texts, unless a slot has deleted the box.
+void CComboBox::tellTexts(const QStringList& texts)
 {
-    if (--m_holds > 0)
-        return;
-    QStringList texts;
-    texts.swap(m_heldTexts);
     const QPointer<CComboBox> self(this);
     for (int i = 0; i < texts.size() && self; ++i)
         Q_EMIT currentValueChanged(texts.at(i));
 }
 
-void CComboBox::tellText(const QString& text)
+/// Qt has made the row with \a text the current one: does what changeCurrentText() does, except
+/// that the text is left in \a waiting where there is such a list.
+void CComboBox::followRow(const QString& text, QStringList* waiting)
 {
-    if (m_holds > 0)
-        m_heldTexts.append(text);
-    else
-        Q_EMIT currentValueChanged(text);
+    if (!waiting) {
+        changeCurrentText(text);
+        return;
+    }
+    hidePopup();
+    showRow(rowOf(text));
+    waiting->append(text);
 }
 
 /// Closes the list, shows \a text in the closed box, or nothing where it is not offered, and emits
@@ -334,7 +339,7 @@ void CComboBox::changeCurrentText(const QString& text)
     const QPointer<CComboBox> self(this); // a slot may delete the box
     changeRow(rowOf(text));
     if (self)
-        tellText(text);
+        Q_EMIT currentValueChanged(text);
 }
 
 /// The same as changeCurrentText(), for a touched row of the list.
@@ -368,25 +373,6 @@ void CComboBox::itemActivated(const QString& text)
     Q_EMIT currentItemActivated(index);
     if (self)
         Q_EMIT activated(index);
-}
-
-/// Where Qt tells a change of the row by its number only, followed by the text: notes that the text
-/// to come is that of another row. An editable box gets no such text.
-void CComboBox::countRowChange(int row)
-{
-    if (lineEdit())
-        changeCurrentText(itemText(row));
-    else
-        ++m_rowChanges;
-}
-
-/// Takes over the text of another row, but not that of a row that was only renamed.
-void CComboBox::followRowChange(const QString& text)
-{
-    if (m_rowChanges == 0)
-        return;
-    --m_rowChanges;
-    changeCurrentText(text);
 }
 
 void CComboBox::paintEvent(QPaintEvent* event)

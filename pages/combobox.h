@@ -8,6 +8,7 @@
 #include <QList>
 #include <QStringList>
 
+class ComboBoxRow;
 class CPageListWidget;
 
 /// A combo box for the touch screen. Closed it is Qt's; open it is a paged list over the middle of
@@ -64,16 +65,14 @@ Q_SIGNALS:
 protected:
     void paintEvent(QPaintEvent* event) override;
 
-private Q_SLOTS:
-    void countRowChange(int row);
-    void followRowChange(const QString& text);
-
 private:
+    friend class ComboBoxRow;
+
     int rowOf(const QString& text) const;
+    void showRow(int row);
     void changeRow(int row);
-    void holdTexts();
-    void releaseTexts();
-    void tellText(const QString& text);
+    void followRow(const QString& text, QStringList* waiting);
+    void tellTexts(const QStringList& texts);
     void fill(const QStringList& texts, int current);
     QRect groundGeometry() const;
     void centerPopup(const QRect& ground);
@@ -83,9 +82,7 @@ private:
     bool m_autoStyleEnabled;
     CPageListWidget* m_pageList;
     bool m_borderVisible;
-    int m_rowChanges;
-    int m_holds;
-    QStringList m_heldTexts;
+    ComboBoxRow* m_row;
 
     Q_DISABLE_COPY(CComboBox)
 };

@@ -87,22 +87,25 @@ inline QRect primaryScreenGeometry()
 #endif
 }
 
-/// Has \a box tell its slot \a textSlot the text of the row whenever the current row changes.
-///
-/// Qt 6 dropped the signal that says just that. There the number of the new row is told to \a
-/// rowSlot and, after the other receivers of the number, the text to \a rowTextSlot. The signal of
-/// the text comes for a renamed row as well; the two slots can tell these apart.
-inline void connectComboRowText(QComboBox* box, const char* textSlot, const char* rowSlot,
-                                const char* rowTextSlot)
+/// The signal of QComboBox that tells the text of another row after its number, for string-based
+/// connections. Qt 6 dropped the one that says just that; there it comes for a renamed row as well.
+inline const char* comboRowTextSignal()
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    Q_UNUSED(textSlot);
-    QObject::connect(box, SIGNAL(currentIndexChanged(int)), box, rowSlot);
-    QObject::connect(box, SIGNAL(currentTextChanged(QString)), box, rowTextSlot);
+    return SIGNAL(currentTextChanged(QString));
 #else
-    Q_UNUSED(rowSlot);
-    Q_UNUSED(rowTextSlot);
-    QObject::connect(box, SIGNAL(currentIndexChanged(QString)), box, textSlot);
+    return SIGNAL(currentIndexChanged(QString));
+#endif
+}
+
+/// Whether \a box tells the text of every other row; an editable one on Qt 6 tells its number only.
+inline bool comboTellsRowText(const QComboBox* box)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return !box->lineEdit();
+#else
+    Q_UNUSED(box);
+    return true;
 #endif
 }
 
