@@ -70,10 +70,12 @@ private Q_SLOTS:
     void opensOverTheActiveWindow();
     void opensOverTheParentsWindowWithoutAnActiveOne();
     void opensOverTheScreenWithoutAnyWindow();
+    void listIsNotCenteredOnItself();
     void hidePopupHidesTheList();
     void opensOnAClick();
     void opensOnAKey();
     void touchClosesTheList();
+    void slotsCloseTheListOnTheSameEntry();
     void touchOutsideClosesTheList();
     void touchOutsideLeavesTheEntry();
     void entriesChangedWhileOpen_data();
@@ -159,6 +161,19 @@ void tst_combobox_popup::opensOverTheScreenWithoutAnyWindow()
     QCOMPARE(listOf(box)->pos(), centered(testcompat::screenGeometry(), QSize(220, 208)));
 }
 
+void tst_combobox_popup::listIsNotCenteredOnItself()
+{
+    QWidget window;
+    window.setGeometry(150, 120, 400, 300);
+    CComboBox* box = new CComboBox(&window);
+    box->addItems(numberedTexts(3));
+    box->showPopup();
+    QVERIFY(activate(listOf(*box)));
+    listOf(*box)->move(5, 7);
+    box->showPopup();
+    QCOMPARE(listOf(*box)->pos(), centered(window.geometry(), QSize(220, 208)));
+}
+
 void tst_combobox_popup::hidePopupHidesTheList()
 {
     CComboBox box;
@@ -209,6 +224,21 @@ void tst_combobox_popup::touchClosesTheList()
     QVERIFY(!listOf(box)->isVisible());
     QCOMPARE(box.currentIndex(), 8);
     QCOMPARE(box.currentText(), text("item 8"));
+}
+
+void tst_combobox_popup::slotsCloseTheListOnTheSameEntry()
+{
+    CComboBox box;
+    box.addItems(numberedTexts(3));
+    box.showPopup();
+    box.changeCurrentItem(0);
+    QVERIFY(!listOf(box)->isVisible());
+    box.showPopup();
+    box.changeCurrentItem(text("item 0"));
+    QVERIFY(!listOf(box)->isVisible());
+    box.showPopup();
+    box.changeCurrentText(text("item 0"));
+    QVERIFY(!listOf(box)->isVisible());
 }
 
 void tst_combobox_popup::touchOutsideClosesTheList()

@@ -95,6 +95,7 @@ private Q_SLOTS:
     void registeringAllKeepsTheOrderOfEarlierOnes();
     void registrationIsBounded();
     void unregistering();
+    void unregisteringIsBounded();
     void pageIsUpdatedTwiceWherePositionAndNumberDiffer();
     void pageOnScreenIsLeftOutWhereItsPositionIsRegistered();
     void repeatedNumbersAreAllUpdated();
@@ -198,6 +199,21 @@ void tst_pagewidget_update::unregistering()
     QCOMPARE(taken(), text("a c"));
     pages.closePageAutoUpdate(-1);
     pages.setCurrentPage(1);
+    QCOMPARE(taken(), text("b"));
+}
+
+void tst_pagewidget_update::unregisteringIsBounded()
+{
+    CPageWidget pages;
+    addPages(&pages);
+    pages.openPageAutoUpdate(2);
+    pages.hidePage(0); // the bar counts 2, and c is still numbered 2
+    pages.closePageAutoUpdate(2);
+    pages.updateParm(0, 1);
+    QCOMPARE(taken(), text("c b"));
+    pages.showPage(0);
+    pages.closePageAutoUpdate(2);
+    pages.updateParm(0, 1);
     QCOMPARE(taken(), text("b"));
 }
 
