@@ -8,6 +8,11 @@
 class CWIDGET_EXPORT CAbstractKeyPad : public CWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(QPixmap background READ getBackground WRITE setBackground)
+    Q_PROPERTY(QColor borderColor READ getBorderColor WRITE setBorderColor)
+    Q_PROPERTY(int borderWidth READ getBorderWidth WRITE setBorderWidth)
+    Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
     explicit CAbstractKeyPad(QWidget* parent = 0);

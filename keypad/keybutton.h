@@ -10,6 +10,9 @@
 class CWIDGET_EXPORT CKeyButton : public CPushButton
 {
     Q_OBJECT
+    Q_PROPERTY(int key READ key WRITE setKey)
+    Q_PROPERTY(QString keyText READ getKeyText WRITE setKeyText)
+    Q_PROPERTY(QString symbol READ getSymbol WRITE setSymbol)
 
 public:
     explicit CKeyButton(QWidget* parent = 0);

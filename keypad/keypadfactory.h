@@ -3,6 +3,7 @@
 
 #include "style/global.h"
 
+#include <QObject>
 #include <QString>
 
 class QWidget;
@@ -10,9 +11,16 @@ class QWidget;
 /// Asks the user for a text: pops up a keypad over the active window and waits until it closes.
 class CWIDGET_EXPORT CKeyPadFactory
 {
+    Q_GADGET
+    Q_ENUMS(KeyPadType)
+
 public:
     /// Kinds of keypads. Other values are taken as SKP_GENERAL.
-    enum KeyPadType : int {
+    enum KeyPadType
+#ifndef Q_MOC_RUN // Qt 4's reads no underlying type
+        : int
+#endif
+    {
         SKP_GENERAL = 0, ///< any text
         SKP_HEX = 1,     ///< hexadecimal numbers
         SKP_BINARY = 2,  ///< binary numbers

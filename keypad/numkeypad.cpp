@@ -61,6 +61,11 @@ CNumKeyPad::CNumKeyPad(Mode mode, QWidget* parent)
     setMode(mode);
 }
 
+/// The same in SignedMode.
+CNumKeyPad::CNumKeyPad(QWidget* parent) : CNumKeyPad(SignedMode, parent)
+{
+}
+
 CNumKeyPad::~CNumKeyPad()
 {
 }

@@ -20,6 +20,7 @@ public:
         SignedMode = 2
     };
 
+    explicit CNumKeyPad(QWidget* parent);
     explicit CNumKeyPad(Mode mode, QWidget* parent = 0);
     ~CNumKeyPad() override;
 

@@ -86,6 +86,11 @@ CSoftKeyPad::CSoftKeyPad(CKeyPadFactory::KeyPadType type, QWidget* parent)
     setSize(defaultWidth, defaultHeight);
 }
 
+/// The same with the general grid.
+CSoftKeyPad::CSoftKeyPad(QWidget* parent) : CSoftKeyPad(CKeyPadFactory::SKP_GENERAL, parent)
+{
+}
+
 CSoftKeyPad::~CSoftKeyPad()
 {
 }
@@ -118,6 +123,12 @@ void CSoftKeyPad::setSize(int width, int height)
     m_edit->setFixedSize(width - sideMargins, editHeight);
     m_grid->setSize(width - sideMargins, height);
     keepKeysInside();
+}
+
+/// The type of the grid.
+CKeyPadFactory::KeyPadType CSoftKeyPad::skpType() const
+{
+    return m_type;
 }
 
 /// Replaces the grid by that of another type; an unknown type, or the one it has, does nothing.

@@ -16,14 +16,17 @@ class QHBoxLayout;
 class CWIDGET_EXPORT CSoftKeyPad : public QDialog
 {
     Q_OBJECT
+    Q_PROPERTY(CKeyPadFactory::KeyPadType keypadType READ skpType WRITE setSKPType)
 
 public:
+    explicit CSoftKeyPad(QWidget* parent = 0);
     explicit CSoftKeyPad(CKeyPadFactory::KeyPadType type, QWidget* parent = 0);
     ~CSoftKeyPad() override;
 
     bool initialize();
 
     void setSize(int width, int height);
+    CKeyPadFactory::KeyPadType skpType() const;
     void setSKPType(CKeyPadFactory::KeyPadType type);
     void setRange(int min, int max);
     void setRange(const QString& min, const QString& max);

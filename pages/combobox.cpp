@@ -58,6 +58,12 @@ CComboBox::~CComboBox()
     delete m_row;
 }
 
+/// The table of entries, empty by default.
+QStringList CComboBox::items() const
+{
+    return m_items;
+}
+
 /// Makes \a texts the table of entries, all of them offered, with the first one shown, unless the
 /// table holds these texts already. Showing it may emit currentValueChanged() with its text.
 void CComboBox::addItems(const QStringList& texts)
@@ -212,13 +218,25 @@ bool CComboBox::isChanged(const QStringList& texts, int current) const
     return m_currentIndex != current || m_pageList->visibleItems() != texts;
 }
 
+/// The title of the list, empty by default.
+QString CComboBox::title() const
+{
+    return m_pageList->title();
+}
+
 /// Sets the title of the list.
 void CComboBox::setTitle(const QString& title)
 {
     m_pageList->setTitle(title);
 }
 
-/// Sets whether the closed box has a thin grey frame, which it has by default, and repaints.
+/// Whether the closed box has a thin grey frame; true by default.
+bool CComboBox::isBorderVisible() const
+{
+    return m_borderVisible;
+}
+
+/// Sets whether the closed box has a thin grey frame, and repaints.
 void CComboBox::setBorderVisible(bool visible)
 {
     m_borderVisible = visible;

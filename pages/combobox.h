@@ -17,11 +17,18 @@ class CPageListWidget;
 class CWIDGET_EXPORT CComboBox : public QComboBox
 {
     Q_OBJECT
+    Q_PROPERTY(QString title READ title WRITE setTitle)
+    Q_PROPERTY(QStringList items READ items WRITE addItems)
+    Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentIndex)
+    Q_PROPERTY(bool borderVisible READ isBorderVisible WRITE setBorderVisible)
+    Q_PROPERTY(QFont font READ font WRITE setFont)
+    Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
     explicit CComboBox(QWidget* parent = 0);
     ~CComboBox() override;
 
+    QStringList items() const;
     void addItems(const QStringList& texts);
 
     int currentIndex() const;
@@ -36,7 +43,9 @@ public:
     bool isChanged(const QList<int>& indexes, int current) const;
     bool isChanged(const QStringList& texts, int current) const;
 
+    QString title() const;
     void setTitle(const QString& title);
+    bool isBorderVisible() const;
     void setBorderVisible(bool visible);
     void setFont(const QFont& font);
 

@@ -109,6 +109,14 @@ int CPageBar::currentIndex() const
     return m_currentIndex;
 }
 
+/// Counts \a count pages. The current page stays as far as it exists. Emits nothing.
+void CPageBar::setCount(int count)
+{
+    m_count = qMax(0, count);
+    m_currentIndex = qMin(qMax(0, m_currentIndex), m_count - 1);
+    setText();
+}
+
 /// Counts one page more; the first one becomes the current one. Emits nothing.
 void CPageBar::addPage()
 {
@@ -148,7 +156,13 @@ void CPageBar::setText()
     update();
 }
 
-/// Sets the colour of the text, black by default, and repaints.
+/// The colour of the text, black by default.
+QColor CPageBar::textColor() const
+{
+    return m_textColor;
+}
+
+/// Sets the colour of the text and repaints.
 void CPageBar::setTextColor(const QColor& color)
 {
     m_textColor = color;

@@ -11,6 +11,14 @@ class CPushButton;
 class CWIDGET_EXPORT CPageBar : public CWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int count READ count WRITE setCount)
+    Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentIndex)
+    Q_PROPERTY(QColor textColor READ textColor WRITE setTextColor)
+    Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(QPixmap background READ getBackground WRITE setBackground)
+    Q_PROPERTY(QColor borderColor READ getBorderColor WRITE setBorderColor)
+    Q_PROPERTY(int borderWidth READ getBorderWidth WRITE setBorderWidth)
+    Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
     explicit CPageBar(QWidget* parent = 0,
@@ -20,11 +28,13 @@ public:
     int count() const;
     int currentIndex() const;
 
+    void setCount(int count);
     void addPage();
     void removePage(int index);
     void clear();
 
     void setText();
+    QColor textColor() const;
     void setTextColor(const QColor& color);
     void setBackgroundColor(const QColor& color);
 

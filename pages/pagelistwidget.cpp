@@ -58,6 +58,20 @@ void CPageListWidget::buildLayout()
     layout->addStretch();
 }
 
+/// The list of texts, empty by default.
+QStringList CPageListWidget::items() const
+{
+    return m_items;
+}
+
+/// Makes \a texts the entries of the list, all of them taking part in paging, in place of those
+/// that are there.
+void CPageListWidget::setItems(const QStringList& texts)
+{
+    clear();
+    addItems(texts);
+}
+
 /// Makes \a texts the list of texts, adds a row for each of them and lets all of them take part in
 /// paging. Rows that are there already stay, wanted so: clear() comes first.
 void CPageListWidget::addItems(const QStringList& texts)
@@ -162,11 +176,23 @@ int CPageListWidget::pageOf(int index) const
     return position < 0 ? -1 : position / m_maxVisibleRows;
 }
 
+/// The title in the header, empty by default.
+QString CPageListWidget::title() const
+{
+    return m_title;
+}
+
 /// Sets the title in the header.
 void CPageListWidget::setTitle(const QString& title)
 {
     m_title = title;
     m_header->setTitle(m_title);
+}
+
+/// What was last given to setText(), empty by default.
+QString CPageListWidget::text() const
+{
+    return m_text;
 }
 
 /// Sets the current value in the header. Opening the list replaces it.
@@ -201,6 +227,12 @@ void CPageListWidget::adjustPageCount()
     m_pageBar->clear();
     for (int first = 0; first < m_visibleIndex.size(); first += m_maxVisibleRows)
         m_pageBar->addPage();
+}
+
+/// The index of the current entry in the list of texts, 0 by default.
+int CPageListWidget::currentIndex() const
+{
+    return m_itemArea->currentIndex();
 }
 
 /// Marks the row of the entry with \a index if it is on screen. The page stays.

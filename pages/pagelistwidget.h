@@ -16,11 +16,22 @@ class CPageListWidgetItemArea;
 class CWIDGET_EXPORT CPageListWidget : public CWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString title READ title WRITE setTitle)
+    Q_PROPERTY(QString text READ text WRITE setText)
+    Q_PROPERTY(QStringList items READ items WRITE setItems)
+    Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentIndex)
+    Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(QPixmap background READ getBackground WRITE setBackground)
+    Q_PROPERTY(QColor borderColor READ getBorderColor WRITE setBorderColor)
+    Q_PROPERTY(int borderWidth READ getBorderWidth WRITE setBorderWidth)
+    Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
     explicit CPageListWidget(QWidget* parent = 0);
     ~CPageListWidget() override;
 
+    QStringList items() const;
+    void setItems(const QStringList& texts);
     void addItems(const QStringList& texts);
     void addItem(const QString& text);
     void clear();
@@ -34,7 +45,10 @@ public:
     void show(int index);
     void show(const QString& text);
 
+    int currentIndex() const;
+    QString title() const;
     void setTitle(const QString& title);
+    QString text() const;
     void setText(const QString& text);
 
     using CWidget::setSize;

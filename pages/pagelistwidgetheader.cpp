@@ -39,7 +39,13 @@ bool CPageListWidgetHeader::initialize()
     return true;
 }
 
-/// Sets the title, empty by default, and repaints.
+/// The title, empty by default.
+QString CPageListWidgetHeader::title() const
+{
+    return m_title;
+}
+
+/// Sets the title and repaints.
 void CPageListWidgetHeader::setTitle(const QString& title)
 {
     m_title = title;

@@ -10,6 +10,13 @@ class QPainter;
 class CWIDGET_EXPORT CPageListWidgetHeader : public CWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString title READ title WRITE setTitle)
+    Q_PROPERTY(QString text READ text WRITE setText)
+    Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(QPixmap background READ getBackground WRITE setBackground)
+    Q_PROPERTY(QColor borderColor READ getBorderColor WRITE setBorderColor)
+    Q_PROPERTY(int borderWidth READ getBorderWidth WRITE setBorderWidth)
+    Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
     explicit CPageListWidgetHeader(QWidget* parent = 0);
@@ -18,6 +25,7 @@ public:
 
     bool initialize() override;
 
+    QString title() const;
     void setTitle(const QString& title);
     QString text() const;
     void setText(const QString& text);

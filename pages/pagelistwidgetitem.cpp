@@ -15,6 +15,11 @@ const int noIndex = -1;
 
 } // namespace
 
+/// The same as a row with an empty text.
+CPageListWidgetItem::CPageListWidgetItem(QWidget* parent) : CPageListWidgetItem(QString(), parent)
+{
+}
+
 /// A row with a text, not active yet and without an index.
 CPageListWidgetItem::CPageListWidgetItem(const QString& text, QWidget* parent)
     : CWidget(parent),
@@ -94,6 +99,12 @@ void CPageListWidgetItem::setActive(bool active)
     m_active = active;
     if (!active)
         setVisible(false);
+}
+
+/// Whether the row has the colour of the current entry; false by default.
+bool CPageListWidgetItem::isSelected() const
+{
+    return m_selected;
 }
 
 /// Sets whether the row has the colour of the current entry, and repaints.

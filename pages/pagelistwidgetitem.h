@@ -13,8 +13,17 @@ class QPainter;
 class CWIDGET_EXPORT CPageListWidgetItem : public CWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText)
+    Q_PROPERTY(int index READ index WRITE setIndex)
+    Q_PROPERTY(bool selected READ isSelected WRITE setSelect)
+    Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(QPixmap background READ getBackground WRITE setBackground)
+    Q_PROPERTY(QColor borderColor READ getBorderColor WRITE setBorderColor)
+    Q_PROPERTY(int borderWidth READ getBorderWidth WRITE setBorderWidth)
+    Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
+    explicit CPageListWidgetItem(QWidget* parent);
     explicit CPageListWidgetItem(const QString& text, QWidget* parent = 0);
     CPageListWidgetItem(const QIcon& icon, const QString& text, QWidget* parent = 0);
     ~CPageListWidgetItem() override;
@@ -28,6 +37,7 @@ public:
     bool isActive() const;
     void setActive(bool active);
 
+    bool isSelected() const;
     void setSelect(bool selected);
     void setHoverIn();
     void setHoverOut();

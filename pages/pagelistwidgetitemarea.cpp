@@ -126,13 +126,25 @@ void CPageListWidgetItemArea::setCurrentIndex(int index)
     updateStatus();
 }
 
+/// The page that is shown, from 0.
+int CPageListWidgetItemArea::currentPage() const
+{
+    return m_currentPage;
+}
+
 /// The text of the entry that was touched last; empty at first.
 QString CPageListWidgetItemArea::currentText() const
 {
     return m_currentText;
 }
 
-/// Sets how many rows a page has, 5 by default.
+/// How many rows a page has, 5 by default.
+int CPageListWidgetItemArea::maxVisibleRows() const
+{
+    return m_maxVisibleRows;
+}
+
+/// Sets how many rows a page has.
 void CPageListWidgetItemArea::setMaxVisibleRows(int rows)
 {
     m_maxVisibleRows = rows;

@@ -14,6 +14,14 @@ class QVBoxLayout;
 class CWIDGET_EXPORT CPageListWidgetItemArea : public CWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int maxVisibleRows READ maxVisibleRows WRITE setMaxVisibleRows)
+    Q_PROPERTY(int currentPage READ currentPage WRITE setCurrentPage)
+    Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentIndex)
+    Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(QPixmap background READ getBackground WRITE setBackground)
+    Q_PROPERTY(QColor borderColor READ getBorderColor WRITE setBorderColor)
+    Q_PROPERTY(int borderWidth READ getBorderWidth WRITE setBorderWidth)
+    Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
     explicit CPageListWidgetItemArea(QWidget* parent = 0);
@@ -25,7 +33,9 @@ public:
 
     int currentIndex() const;
     void setCurrentIndex(int index);
+    int currentPage() const;
     QString currentText() const;
+    int maxVisibleRows() const;
     void setMaxVisibleRows(int rows);
     void updateStatus();
 

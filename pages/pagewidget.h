@@ -16,12 +16,19 @@ class QStackedWidget;
 class CWIDGET_EXPORT CPageWidget : public CWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int count READ count)
+    Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentPage)
+    Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(QPixmap background READ getBackground WRITE setBackground)
+    Q_PROPERTY(QColor borderColor READ getBorderColor WRITE setBorderColor)
+    Q_PROPERTY(int borderWidth READ getBorderWidth WRITE setBorderWidth)
+    Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
     explicit CPageWidget(QWidget* parent = 0);
     ~CPageWidget() override;
 
-    void addPage(QWidget* page);
+    Q_INVOKABLE void addPage(QWidget* page);
     void insertPage(int index, QWidget* page);
     void removePage(int index);
     int hideCount() const;

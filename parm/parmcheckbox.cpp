@@ -28,14 +28,49 @@ CParmCheckBox::CParmCheckBox(const QString& name, const QString& text, QWidget* 
     connect(m_checkBox, SIGNAL(stateChanged(int)), this, SIGNAL(stateChanged(int)));
 }
 
+/// The same without a name and a caption.
+CParmCheckBox::CParmCheckBox(QWidget* parent) : CParmCheckBox(QString(), QString(), parent)
+{
+}
+
 CParmCheckBox::~CParmCheckBox()
 {
+}
+
+/// The text of the name.
+QString CParmCheckBox::name() const
+{
+    return m_nameLabel->text();
 }
 
 /// Sets the text of the name.
 void CParmCheckBox::setName(const QString& name)
 {
     m_nameLabel->setText(name);
+}
+
+/// The caption of the check box.
+QString CParmCheckBox::text() const
+{
+    return m_checkBox->text();
+}
+
+/// Sets the caption of the check box.
+void CParmCheckBox::setText(const QString& text)
+{
+    m_checkBox->setText(text);
+}
+
+/// Whether the check box is ticked; false by default.
+bool CParmCheckBox::isChecked() const
+{
+    return m_checkBox->isChecked();
+}
+
+/// Ticks the check box or not, without a signal, as CCheckBox::setChecked().
+void CParmCheckBox::setChecked(bool checked)
+{
+    m_checkBox->setChecked(checked);
 }
 
 /// The state of the check box, Qt::Unchecked by default.
@@ -50,7 +85,13 @@ void CParmCheckBox::setCheckState(Qt::CheckState state)
     m_checkBox->setCheckState(state);
 }
 
-/// Sets whether there is a frame around the check box and its caption, as there is by default.
+/// Whether there is a frame around the check box and its caption; true by default.
+bool CParmCheckBox::isBorderVisible() const
+{
+    return m_checkBox->isBorderVisible();
+}
+
+/// Sets whether there is a frame around the check box and its caption.
 void CParmCheckBox::setBorderVisible(bool visible)
 {
     m_checkBox->setBorderVisible(visible);

@@ -12,14 +12,31 @@ class CLabel;
 class CWIDGET_EXPORT CParmCheckBox : public CWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString name READ name WRITE setName)
+    Q_PROPERTY(QString text READ text WRITE setText)
+    Q_PROPERTY(bool checked READ isChecked WRITE setChecked)
+    Q_PROPERTY(int fieldWidth READ width WRITE setWidth)
+    Q_PROPERTY(bool borderVisible READ isBorderVisible WRITE setBorderVisible)
+    Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(QPixmap background READ getBackground WRITE setBackground)
+    Q_PROPERTY(QColor borderColor READ getBorderColor WRITE setBorderColor)
+    Q_PROPERTY(int borderWidth READ getBorderWidth WRITE setBorderWidth)
+    Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
+    explicit CParmCheckBox(QWidget* parent = 0);
     CParmCheckBox(const QString& name, const QString& text, QWidget* parent = 0);
     ~CParmCheckBox() override;
 
+    QString name() const;
     void setName(const QString& name);
+    QString text() const;
+    void setText(const QString& text);
+    bool isChecked() const;
+    void setChecked(bool checked);
     Qt::CheckState checkState() const;
     void setCheckState(Qt::CheckState state);
+    bool isBorderVisible() const;
     void setBorderVisible(bool visible);
     void setWidgetStyle(WidgetStyle style);
 

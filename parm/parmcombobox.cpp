@@ -28,14 +28,32 @@ CParmComboBox::CParmComboBox(const QString& name, const QStringList& items, cons
     connect(m_comboBox, SIGNAL(currentItemActivated(int)), this, SIGNAL(activated(int)));
 }
 
+/// The same without a name and entries.
+CParmComboBox::CParmComboBox(QWidget* parent)
+    : CParmComboBox(QString(), QStringList(), QString(), parent)
+{
+}
+
 CParmComboBox::~CParmComboBox()
 {
+}
+
+/// The text of the name.
+QString CParmComboBox::name() const
+{
+    return m_nameLabel->text();
 }
 
 /// Sets the text of the name; the list keeps its title.
 void CParmComboBox::setName(const QString& name)
 {
     m_nameLabel->setText(name);
+}
+
+/// All entries, offered or not.
+QStringList CParmComboBox::items() const
+{
+    return m_comboBox->items();
 }
 
 /// Replaces the entries and chooses the first one.
@@ -152,4 +170,34 @@ void CParmComboBox::setWidgetStyle(WidgetStyle style)
     parmpattern::applyStyle(this, style, &m_style, [this](const Style& entry) {
         parmpattern::stylePart(m_nameLabel, m_comboBox, entry);
     });
+}
+
+QColor CParmComboBox::nameTextColor() const
+{
+    return m_nameLabel->textColor();
+}
+
+void CParmComboBox::applyNameTextColor(const QColor& color)
+{
+    setTextColor(color, FieldName);
+}
+
+QColor CParmComboBox::nameBackgroundColor() const
+{
+    return m_nameLabel->getBackgroundColor();
+}
+
+void CParmComboBox::applyNameBackgroundColor(const QColor& color)
+{
+    setBackgroundColor(color, FieldName);
+}
+
+bool CParmComboBox::nameBorderVisible() const
+{
+    return m_nameLabel->getBorderWidth() > 0;
+}
+
+void CParmComboBox::applyNameBorderVisible(bool visible)
+{
+    setBorderVisible(visible, FieldName);
 }

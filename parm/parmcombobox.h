@@ -15,13 +15,28 @@ class CLabel;
 class CWIDGET_EXPORT CParmComboBox : public CWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString name READ name WRITE setName)
+    Q_PROPERTY(QStringList items READ items WRITE addItems)
+    Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentIndex)
+    Q_PROPERTY(int fieldWidth READ width WRITE setWidth)
+    Q_PROPERTY(QColor nameTextColor READ nameTextColor WRITE applyNameTextColor)
+    Q_PROPERTY(QColor nameBackgroundColor READ nameBackgroundColor WRITE applyNameBackgroundColor)
+    Q_PROPERTY(bool nameBorderVisible READ nameBorderVisible WRITE applyNameBorderVisible)
+    Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(QPixmap background READ getBackground WRITE setBackground)
+    Q_PROPERTY(QColor borderColor READ getBorderColor WRITE setBorderColor)
+    Q_PROPERTY(int borderWidth READ getBorderWidth WRITE setBorderWidth)
+    Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
+    explicit CParmComboBox(QWidget* parent = 0);
     CParmComboBox(const QString& name, const QStringList& items, const QString& current,
                   QWidget* parent = 0);
     ~CParmComboBox() override;
 
+    QString name() const;
     void setName(const QString& name);
+    QStringList items() const;
     void addItems(const QStringList& items);
     int currentIndex() const;
     QString currentText() const;
@@ -53,6 +68,14 @@ Q_SIGNALS:
 private:
     template <typename Mask>
     void offerMasked(Mask mask, unsigned int current);
+
+    // The properties of which the setters above address one by a flag.
+    QColor nameTextColor() const;
+    void applyNameTextColor(const QColor& color);
+    QColor nameBackgroundColor() const;
+    void applyNameBackgroundColor(const QColor& color);
+    bool nameBorderVisible() const;
+    void applyNameBorderVisible(bool visible);
 
     QString m_initialText;
     CLabel* m_nameLabel;

@@ -1,6 +1,10 @@
 #ifndef CWIDGET_PARM_PARMFIELD_H
 #define CWIDGET_PARM_PARMFIELD_H
 
+#include "style/global.h"
+
+#include <QObject>
+
 /// The part of a parameter field that a setter is meant for, with the numbers of Style::Field.
 enum FieldFlag : int {
     FieldName = 0,  ///< the name, at the left
@@ -19,6 +23,31 @@ enum Proportion : int {
     Proportion4To1 = 6,
     Proportion1To5 = 7,
     Proportion5To1 = 8
+};
+
+/// The proportions once more, by the same names, for Qt's property system: that knows enumerations
+/// of classes only.
+class CWIDGET_EXPORT CParmField
+{
+    Q_GADGET
+    Q_ENUMS(Proportion)
+
+public:
+    enum Proportion
+#ifndef Q_MOC_RUN // Qt 4's reads no underlying type
+        : int
+#endif
+    {
+        Proportion1To1 = ::Proportion1To1,
+        Proportion1To2 = ::Proportion1To2,
+        Proportion2To1 = ::Proportion2To1,
+        Proportion1To3 = ::Proportion1To3,
+        Proportion3To1 = ::Proportion3To1,
+        Proportion1To4 = ::Proportion1To4,
+        Proportion4To1 = ::Proportion4To1,
+        Proportion1To5 = ::Proportion1To5,
+        Proportion5To1 = ::Proportion5To1
+    };
 };
 
 #endif

@@ -23,8 +23,19 @@ CParmLabel::CParmLabel(const QString& name, const QString& value, QWidget* paren
     setBorderVisible(false, FieldName);
 }
 
+/// The same without a name and a value.
+CParmLabel::CParmLabel(QWidget* parent) : CParmLabel(QString(), QString(), parent)
+{
+}
+
 CParmLabel::~CParmLabel()
 {
+}
+
+/// The text of the name.
+QString CParmLabel::name() const
+{
+    return m_nameLabel->text();
 }
 
 /// Sets the text of the name.
@@ -66,6 +77,12 @@ void CParmLabel::setHeight(int height)
 void CParmLabel::setFont(const QFont& font)
 {
     m_nameLabel->setFont(font);
+}
+
+/// How the value is wrapped; by default it is not.
+CLabel::WrapMode CParmLabel::wrapMode() const
+{
+    return m_valueLabel->wrapMode();
 }
 
 /// Sets how the value is wrapped; the name is not.
@@ -118,4 +135,106 @@ void CParmLabel::setWidgetStyle(WidgetStyle style)
         if (entry.field == Style::FieldAll)
             forLabels(FieldAll, [&](CLabel* label) { parmpattern::styleLabel(label, entry); });
     });
+}
+
+/// The proportion that the parts have at the present width; Proportion1To1 when they have none.
+CParmField::Proportion CParmLabel::proportion() const
+{
+    return static_cast<CParmField::Proportion>(
+        parmpattern::proportionOf(width(), m_nameLabel, m_valueLabel));
+}
+
+void CParmLabel::applyProportion(CParmField::Proportion proportion)
+{
+    setWidth(width(), static_cast<Proportion>(proportion));
+}
+
+void CParmLabel::applyWidth(int width)
+{
+    setWidth(width, static_cast<Proportion>(proportion()));
+}
+
+QFont CParmLabel::nameFont() const
+{
+    return m_nameLabel->font();
+}
+
+QColor CParmLabel::nameTextColor() const
+{
+    return m_nameLabel->textColor();
+}
+
+void CParmLabel::applyNameTextColor(const QColor& color)
+{
+    setTextColor(color, FieldName);
+}
+
+QColor CParmLabel::nameBackgroundColor() const
+{
+    return m_nameLabel->getBackgroundColor();
+}
+
+void CParmLabel::applyNameBackgroundColor(const QColor& color)
+{
+    setBackgroundColor(color, FieldName);
+}
+
+Qt::Alignment CParmLabel::nameAlignment() const
+{
+    return m_nameLabel->alignment();
+}
+
+void CParmLabel::applyNameAlignment(Qt::Alignment alignment)
+{
+    setAlignment(alignment, FieldName);
+}
+
+bool CParmLabel::nameBorderVisible() const
+{
+    return m_nameLabel->getBorderWidth() > 0;
+}
+
+void CParmLabel::applyNameBorderVisible(bool visible)
+{
+    setBorderVisible(visible, FieldName);
+}
+
+QColor CParmLabel::valueTextColor() const
+{
+    return m_valueLabel->textColor();
+}
+
+void CParmLabel::applyValueTextColor(const QColor& color)
+{
+    setTextColor(color, FieldValue);
+}
+
+QColor CParmLabel::valueBackgroundColor() const
+{
+    return m_valueLabel->getBackgroundColor();
+}
+
+void CParmLabel::applyValueBackgroundColor(const QColor& color)
+{
+    setBackgroundColor(color, FieldValue);
+}
+
+Qt::Alignment CParmLabel::valueAlignment() const
+{
+    return m_valueLabel->alignment();
+}
+
+void CParmLabel::applyValueAlignment(Qt::Alignment alignment)
+{
+    setAlignment(alignment, FieldValue);
+}
+
+bool CParmLabel::valueBorderVisible() const
+{
+    return m_valueLabel->getBorderWidth() > 0;
+}
+
+void CParmLabel::applyValueBorderVisible(bool visible)
+{
+    setBorderVisible(visible, FieldValue);
 }

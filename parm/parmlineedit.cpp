@@ -24,8 +24,19 @@ CParmLineEdit::CParmLineEdit(const QString& name, const QString& value, QWidget*
     connect(m_lineEdit, SIGNAL(editingFinished()), this, SIGNAL(editingFinished()));
 }
 
+/// The same without a name and a text.
+CParmLineEdit::CParmLineEdit(QWidget* parent) : CParmLineEdit(QString(), QString(), parent)
+{
+}
+
 CParmLineEdit::~CParmLineEdit()
 {
+}
+
+/// The text of the name.
+QString CParmLineEdit::name() const
+{
+    return m_nameLabel->text();
 }
 
 /// Sets the text of the name and the title of the keypad.
@@ -88,7 +99,49 @@ void CParmLineEdit::setRange(int min, int max)
     m_lineEdit->setRange(min, max);
 }
 
-/// Sets the kind of keypad, by default the general one, which also stands for an unknown kind.
+/// Whether the keypad has a range, as it has from the first setRange() on.
+bool CParmLineEdit::isRangeEnabled() const
+{
+    return m_lineEdit->isRangeEnabled();
+}
+
+/// Sets whether the keypad has a range. The bounds stay as they are.
+void CParmLineEdit::setRangeEnabled(bool enabled)
+{
+    m_lineEdit->setRangeEnabled(enabled);
+}
+
+/// The lowest number of the range, 0 by default.
+int CParmLineEdit::minimum() const
+{
+    return m_lineEdit->minimum();
+}
+
+/// Gives the keypad a range from \a min to the highest number that it has.
+void CParmLineEdit::setMinimum(int min)
+{
+    m_lineEdit->setMinimum(min);
+}
+
+/// The highest number of the range, 0 by default.
+int CParmLineEdit::maximum() const
+{
+    return m_lineEdit->maximum();
+}
+
+/// Gives the keypad a range from the lowest number that it has to \a max.
+void CParmLineEdit::setMaximum(int max)
+{
+    m_lineEdit->setMaximum(max);
+}
+
+/// The kind of keypad, by default the general one.
+CKeyPadFactory::KeyPadType CParmLineEdit::skpType() const
+{
+    return m_lineEdit->skpType();
+}
+
+/// Sets the kind of keypad. An unknown one becomes the general keypad.
 void CParmLineEdit::setSKPType(CKeyPadFactory::KeyPadType type)
 {
     m_lineEdit->setSKPType(type);
@@ -106,10 +159,22 @@ void CParmLineEdit::setSKPActive(bool active)
     m_lineEdit->setSKPActive(active);
 }
 
-/// Sets whether a keyboard can change the text; a keypad can in any case.
+/// Whether a keyboard cannot change the text; false by default.
+bool CParmLineEdit::isReadOnly() const
+{
+    return m_lineEdit->isReadOnly();
+}
+
+/// Sets whether a keyboard cannot change the text; a keypad can in any case.
 void CParmLineEdit::setReadOnly(bool readOnly)
 {
     m_lineEdit->setReadOnly(readOnly);
+}
+
+/// Whether the line edit is enabled, as it is by default.
+bool CParmLineEdit::isValueEnabled() const
+{
+    return m_lineEdit->isEnabledTo(this);
 }
 
 /// Enables or disables the line edit; the name stays enabled.
@@ -122,4 +187,39 @@ void CParmLineEdit::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     setWidth(event->size().width(), m_proportion);
+}
+
+CParmField::Proportion CParmLineEdit::proportion() const
+{
+    return static_cast<CParmField::Proportion>(m_proportion);
+}
+
+void CParmLineEdit::applyProportion(CParmField::Proportion proportion)
+{
+    setWidth(width(), static_cast<Proportion>(proportion));
+}
+
+void CParmLineEdit::applyWidth(int width)
+{
+    setWidth(width, m_proportion);
+}
+
+QColor CParmLineEdit::nameTextColor() const
+{
+    return m_nameLabel->textColor();
+}
+
+void CParmLineEdit::applyNameTextColor(const QColor& color)
+{
+    setTextColor(color, FieldName);
+}
+
+QColor CParmLineEdit::nameBackgroundColor() const
+{
+    return m_nameLabel->getBackgroundColor();
+}
+
+void CParmLineEdit::applyNameBackgroundColor(const QColor& color)
+{
+    setBackgroundColor(color, FieldName);
 }

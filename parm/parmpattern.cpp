@@ -77,6 +77,19 @@ void setWidths(int width, Proportion proportion, QWidget* name, QWidget* value, 
     value->setFixedWidth(share(width, split->value, *split));
 }
 
+/// The proportion by which setWidths() gave \a name and \a value the widths that they have in a
+/// field of \a width pixels; Proportion1To1 when none did.
+Proportion proportionOf(int width, const QWidget* name, const QWidget* value)
+{
+    const int count = sizeof splits / sizeof splits[0];
+    for (int i = 0; i < count; ++i) {
+        if (name->maximumWidth() == share(width, splits[i].name, splits[i]) &&
+            value->maximumWidth() == share(width, splits[i].value, splits[i]))
+            return static_cast<Proportion>(i);
+    }
+    return Proportion1To1;
+}
+
 /// Gives \a label the font and both colours of \a entry, invalid colours included.
 void styleLabel(CLabel* label, const Style& entry)
 {

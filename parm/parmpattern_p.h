@@ -14,6 +14,7 @@ namespace parmpattern
 QHBoxLayout* createLayout(QWidget* field, int rightMargin = 0);
 CLabel* addNameLabel(QHBoxLayout* layout, const QString& name, int borderWidth);
 void setWidths(int width, Proportion proportion, QWidget* name, QWidget* value, int nameExtra = 0);
+Proportion proportionOf(int width, const QWidget* name, const QWidget* value);
 void styleLabel(CLabel* label, const Style& entry);
 
 /// Styles one part: the name label by a FieldName entry, the font of \a value by a FieldValue one.

@@ -84,6 +84,13 @@ void CCheckBox::setCheckState(Qt::CheckState state)
         Q_EMIT stateChanged(state);
 }
 
+/// Whether there is a black frame around box and caption; by default only if the box was made with
+/// a caption.
+bool CCheckBox::isBorderVisible() const
+{
+    return m_borderVisible;
+}
+
 /// Sets whether there is a black frame around box and caption, and repaints.
 void CCheckBox::setBorderVisible(bool visible)
 {
@@ -91,15 +98,26 @@ void CCheckBox::setBorderVisible(bool visible)
     update();
 }
 
-/// Sets the colour of box, tick and caption, white by default, and repaints.
+/// The colour of box, tick and caption, white by default.
+QColor CCheckBox::foregroundColor() const
+{
+    return m_foregroundColor;
+}
+
+/// Sets the colour of box, tick and caption, and repaints.
 void CCheckBox::setForegroundColor(const QColor& color)
 {
     m_foregroundColor = color;
     update();
 }
 
-/// Sets the colour of the ground and repaints. With an invalid one, the default, the ground is that
-/// of the parent.
+/// The colour of the ground; invalid, the default, when it is that of the parent.
+QColor CCheckBox::backgroundColor() const
+{
+    return m_backgroundColor;
+}
+
+/// Sets the colour of the ground and repaints.
 void CCheckBox::setBackgroundColor(const QColor& color)
 {
     m_backgroundColor = color;

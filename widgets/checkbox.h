@@ -17,6 +17,11 @@
 class CWIDGET_EXPORT CCheckBox : public QCheckBox
 {
     Q_OBJECT
+    Q_PROPERTY(bool checked READ isChecked WRITE setChecked)
+    Q_PROPERTY(bool borderVisible READ isBorderVisible WRITE setBorderVisible)
+    Q_PROPERTY(QColor foregroundColor READ foregroundColor WRITE setForegroundColor)
+    Q_PROPERTY(QColor backgroundColor READ backgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
     explicit CCheckBox(QWidget* parent = 0);
@@ -28,8 +33,11 @@ public:
     Qt::CheckState checkState() const;
     void setCheckState(Qt::CheckState state);
 
+    bool isBorderVisible() const;
     void setBorderVisible(bool visible);
+    QColor foregroundColor() const;
     void setForegroundColor(const QColor& color);
+    QColor backgroundColor() const;
     void setBackgroundColor(const QColor& color);
 
     bool isAutoStyleEnabled() const;

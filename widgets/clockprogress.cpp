@@ -55,6 +55,21 @@ void CClockProgress::stop()
     setVisible(false);
 }
 
+/// Whether the clock turns; false by default.
+bool CClockProgress::isRunning() const
+{
+    return m_timer->isActive();
+}
+
+/// Calls start() or stop().
+void CClockProgress::setRunning(bool running)
+{
+    if (running)
+        start();
+    else
+        stop();
+}
+
 /// Sets the range, 0 to 0 by default, and repaints. The bounds may come in either order; negative
 /// ones become 0. The value stays, even outside of the range.
 void CClockProgress::setRange(int minimum, int maximum)
@@ -65,15 +80,53 @@ void CClockProgress::setRange(int minimum, int maximum)
     update();
 }
 
-/// Sets the value, 0 by default, clamped to the range, and repaints.
+/// The lower end of the range, 0 by default.
+int CClockProgress::minimum() const
+{
+    return m_minimum;
+}
+
+/// Sets the lower end of the range, and with it the upper one where this would be below, and
+/// repaints.
+void CClockProgress::setMinimum(int minimum)
+{
+    setRange(minimum, qMax(minimum, m_maximum));
+}
+
+/// The upper end of the range, 0 by default.
+int CClockProgress::maximum() const
+{
+    return m_maximum;
+}
+
+/// Sets the upper end of the range, and with it the lower one where this would be above, and
+/// repaints.
+void CClockProgress::setMaximum(int maximum)
+{
+    setRange(qMin(m_minimum, maximum), qMax(0, maximum));
+}
+
+/// The value, 0 by default.
+int CClockProgress::value() const
+{
+    return m_value;
+}
+
+/// Sets the value, clamped to the range, and repaints.
 void CClockProgress::setValue(int value)
 {
     m_value = value < m_minimum ? m_minimum : qMin(value, m_maximum);
     update();
 }
 
+/// What text is over the clock, see setFormat(); 2, none, by default.
+int CClockProgress::format() const
+{
+    return m_format;
+}
+
 /// Sets the text over the clock and repaints: 0 is "value / maximum" as a percentage, 1 the value
-/// and the maximum; anything else, by default 2, is no text.
+/// and the maximum; anything else is no text.
 void CClockProgress::setFormat(int format)
 {
     m_format = format;

@@ -11,6 +11,16 @@ class QTimer;
 class CWIDGET_EXPORT CClockProgress : public CWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(int value READ value WRITE setValue)
+    Q_PROPERTY(int format READ format WRITE setFormat)
+    Q_PROPERTY(bool running READ isRunning WRITE setRunning)
+    Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(QPixmap background READ getBackground WRITE setBackground)
+    Q_PROPERTY(QColor borderColor READ getBorderColor WRITE setBorderColor)
+    Q_PROPERTY(int borderWidth READ getBorderWidth WRITE setBorderWidth)
+    Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
     explicit CClockProgress(QWidget* parent = 0);
@@ -18,9 +28,17 @@ public:
 
     void start();
     void stop();
+    bool isRunning() const;
+    void setRunning(bool running);
 
     void setRange(int minimum, int maximum);
+    int minimum() const;
+    void setMinimum(int minimum);
+    int maximum() const;
+    void setMaximum(int maximum);
+    int value() const;
     void setValue(int value);
+    int format() const;
     void setFormat(int format);
 
 public Q_SLOTS:

@@ -40,12 +40,24 @@ void CGraphicsView::setBorderWidth(int width)
     update();
 }
 
+/// The colour of the border, white by default.
+QColor CGraphicsView::getBorderColor() const
+{
+    return m_borderColor;
+}
+
 /// Sets the colour of the border and repaints; an invalid one means the colour of the ground.
 void CGraphicsView::setBorderColor(const QColor& color)
 {
     m_borderColor = color;
     viewport()->update();
     update();
+}
+
+/// The colour of the ground, lavender by default.
+QColor CGraphicsView::getBackgroundColor() const
+{
+    return m_backgroundColor;
 }
 
 /// Sets the colour of the ground and repaints; an invalid one draws none.

@@ -10,6 +10,9 @@
 class CWIDGET_EXPORT CGraphicsView : public QGraphicsView
 {
     Q_OBJECT
+    Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(QColor borderColor READ getBorderColor WRITE setBorderColor)
+    Q_PROPERTY(int borderWidth READ getBorderWidth WRITE setBorderWidth)
 
 public:
     explicit CGraphicsView(QWidget* parent = 0);
@@ -19,7 +22,9 @@ public:
 
     int getBorderWidth() const;
     void setBorderWidth(int width);
+    QColor getBorderColor() const;
     void setBorderColor(const QColor& color);
+    QColor getBackgroundColor() const;
     void setBackgroundColor(const QColor& color);
 
     void setSize(int width, int height);

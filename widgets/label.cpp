@@ -70,11 +70,23 @@ void CLabel::setCornerText(const QString& text)
     m_cornerText = text;
 }
 
-/// Sets the colour of both texts, black by default, and repaints.
+/// The colour of both texts, black by default.
+QColor CLabel::textColor() const
+{
+    return m_textColor;
+}
+
+/// Sets the colour of both texts and repaints.
 void CLabel::setTextColor(const QColor& color)
 {
     m_textColor = color;
     update();
+}
+
+/// The size last given to setTextSize(); 9 by default, whatever the size of the font.
+int CLabel::textSize() const
+{
+    return m_textSize;
 }
 
 /// Sets the size of the letters, in pixels, and repaints. 0 hides the main text, and so does
@@ -89,16 +101,27 @@ void CLabel::setTextSize(int size)
     update();
 }
 
-/// Places the main text where it is not wrapped, by default left and vertically centred, and
-/// repaints.
+/// Where the main text stands, by default left and vertically centred.
+Qt::Alignment CLabel::alignment() const
+{
+    return m_alignment;
+}
+
+/// Places the main text where it is not wrapped, and repaints.
 void CLabel::setAlignment(Qt::Alignment alignment)
 {
     m_alignment = alignment;
     update();
 }
 
+/// How the main text is wrapped; by default it is not.
+CLabel::WrapMode CLabel::wrapMode() const
+{
+    return m_wrapMode;
+}
+
 /// Sets how the main text is wrapped, and repaints. Wrapped lines are 20 pixels high and start 5
-/// pixels below the top. An unknown mode does not wrap, the default.
+/// pixels below the top. An unknown mode does not wrap.
 void CLabel::setWrapMode(WrapMode mode)
 {
     m_wrapMode = mode;

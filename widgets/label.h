@@ -10,9 +10,25 @@ class QPainter;
 class CWIDGET_EXPORT CLabel : public CWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QString text READ text WRITE setText)
+    Q_PROPERTY(QString cornerText READ cornerText WRITE setCornerText)
+    Q_PROPERTY(QColor textColor READ textColor WRITE setTextColor)
+    Q_PROPERTY(int textSize READ textSize WRITE setTextSize)
+    Q_PROPERTY(Qt::Alignment alignment READ alignment WRITE setAlignment)
+    Q_PROPERTY(WrapMode wrapMode READ wrapMode WRITE setWrapMode)
+    Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(QPixmap background READ getBackground WRITE setBackground)
+    Q_PROPERTY(QColor borderColor READ getBorderColor WRITE setBorderColor)
+    Q_PROPERTY(int borderWidth READ getBorderWidth WRITE setBorderWidth)
+    Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
+    Q_ENUMS(WrapMode)
 
 public:
-    enum WrapMode : int {
+    enum WrapMode
+#ifndef Q_MOC_RUN // Qt 4's reads no underlying type
+        : int
+#endif
+    {
         NoWrap = 0,   ///< one line, placed by the alignment
         WordWrap = 1, ///< breaks before a word that does not fit
         CharWrap = 2  ///< breaks before a character that does not fit
@@ -27,9 +43,13 @@ public:
     void setText(const QString& text);
     QString cornerText() const;
     void setCornerText(const QString& text);
+    QColor textColor() const;
     void setTextColor(const QColor& color);
+    int textSize() const;
     void setTextSize(int size);
+    Qt::Alignment alignment() const;
     void setAlignment(Qt::Alignment alignment);
+    WrapMode wrapMode() const;
     void setWrapMode(WrapMode mode);
 
     bool isAutoStyleEnabled() const;

@@ -34,7 +34,13 @@ CLineEdit::~CLineEdit()
 {
 }
 
-/// Sets the title of the keypad, empty by default.
+/// The title of the keypad, empty by default.
+QString CLineEdit::title() const
+{
+    return m_title;
+}
+
+/// Sets the title of the keypad.
 void CLineEdit::setTitle(const QString& title)
 {
     m_title = title;
@@ -52,7 +58,13 @@ void CLineEdit::setSKPActive(bool active)
     m_skpActive = active;
 }
 
-/// Sets the kind of keypad. An unknown one becomes the general keypad, which is the default.
+/// The kind of keypad, by default the general one.
+CKeyPadFactory::KeyPadType CLineEdit::skpType() const
+{
+    return m_skpType;
+}
+
+/// Sets the kind of keypad. An unknown one becomes the general keypad.
 void CLineEdit::setSKPType(CKeyPadFactory::KeyPadType type)
 {
     const bool known = type >= CKeyPadFactory::SKP_GENERAL && type <= CKeyPadFactory::SKP_FLOAT;
@@ -76,7 +88,49 @@ void CLineEdit::setRange(const QString& min, const QString& max)
     m_maximumText = max;
 }
 
-/// Sets whether the field has a frame of one pixel, and repaints; true by default.
+/// Whether the keypad has a range, as it has from the first setRange() on.
+bool CLineEdit::isRangeEnabled() const
+{
+    return m_rangeEnabled;
+}
+
+/// Sets whether the keypad has a range. The bounds stay as they are.
+void CLineEdit::setRangeEnabled(bool enabled)
+{
+    m_rangeEnabled = enabled;
+}
+
+/// The lowest number of the range, 0 by default.
+int CLineEdit::minimum() const
+{
+    return m_minimum;
+}
+
+/// Gives the keypad a range from \a min to the highest number that it has.
+void CLineEdit::setMinimum(int min)
+{
+    setRange(min, m_maximum);
+}
+
+/// The highest number of the range, 0 by default.
+int CLineEdit::maximum() const
+{
+    return m_maximum;
+}
+
+/// Gives the keypad a range from the lowest number that it has to \a max.
+void CLineEdit::setMaximum(int max)
+{
+    setRange(m_minimum, max);
+}
+
+/// Whether the field has a frame of one pixel; true by default.
+bool CLineEdit::isBorderVisible() const
+{
+    return m_borderVisible;
+}
+
+/// Sets whether the field has a frame of one pixel, and repaints.
 void CLineEdit::setBorderVisible(bool visible)
 {
     m_borderVisible = visible;

@@ -12,17 +12,35 @@
 class CWIDGET_EXPORT CLineEdit : public QLineEdit
 {
     Q_OBJECT
+    Q_PROPERTY(QString title READ title WRITE setTitle)
+    Q_PROPERTY(CKeyPadFactory::KeyPadType keypadType READ skpType WRITE setSKPType)
+    Q_PROPERTY(bool keypadActive READ isSKPActive WRITE setSKPActive)
+    Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(bool rangeEnabled READ isRangeEnabled WRITE setRangeEnabled)
+    Q_PROPERTY(bool borderVisible READ isBorderVisible WRITE setBorderVisible)
+    Q_PROPERTY(QFont font READ font WRITE setFont)
+    Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
     explicit CLineEdit(QWidget* parent = 0);
     ~CLineEdit() override;
 
+    QString title() const;
     void setTitle(const QString& title);
     bool isSKPActive() const;
     void setSKPActive(bool active);
+    CKeyPadFactory::KeyPadType skpType() const;
     void setSKPType(CKeyPadFactory::KeyPadType type);
     void setRange(int min, int max);
     void setRange(const QString& min, const QString& max);
+    bool isRangeEnabled() const;
+    void setRangeEnabled(bool enabled);
+    int minimum() const;
+    void setMinimum(int min);
+    int maximum() const;
+    void setMaximum(int max);
+    bool isBorderVisible() const;
     void setBorderVisible(bool visible);
 
     bool isAutoStyleEnabled() const;

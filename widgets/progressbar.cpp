@@ -72,11 +72,49 @@ void CProgressBar::setRange(int minimum, int maximum)
     update();
 }
 
-/// Sets the value, 0 by default, clamped to the range, and repaints.
+/// The lower end of the range, 0 by default.
+int CProgressBar::minimum() const
+{
+    return m_minimum;
+}
+
+/// Sets the lower end of the range, and with it the upper one where this would be below, and
+/// repaints.
+void CProgressBar::setMinimum(int minimum)
+{
+    setRange(minimum, qMax(minimum, m_maximum));
+}
+
+/// The upper end of the range, 100 by default.
+int CProgressBar::maximum() const
+{
+    return m_maximum;
+}
+
+/// Sets the upper end of the range, and with it the lower one where this would be above, and
+/// repaints.
+void CProgressBar::setMaximum(int maximum)
+{
+    setRange(qMin(m_minimum, maximum), qMax(0, maximum));
+}
+
+/// The value, 0 by default.
+int CProgressBar::value() const
+{
+    return m_value;
+}
+
+/// Sets the value, clamped to the range, and repaints.
 void CProgressBar::setValue(int value)
 {
     m_value = qMax(m_minimum, qMin(value, m_maximum));
     update();
+}
+
+/// The colour of the border, grey by default.
+QColor CProgressBar::borderColor() const
+{
+    return m_borderColor;
 }
 
 /// Sets the colour of the border and repaints.
@@ -86,14 +124,27 @@ void CProgressBar::setBorderColor(const QColor& color)
     update();
 }
 
-/// Sets the one colour of the filled part, grey by default, for when the changing colours are
-/// switched off. It shows with the next repaint.
+/// The one colour of the filled part for when the changing colours are switched off, grey by
+/// default.
+QColor CProgressBar::progressColor() const
+{
+    return m_progressColor;
+}
+
+/// Sets the one colour of the filled part for when the changing colours are switched off. It shows
+/// with the next repaint.
 void CProgressBar::setProgressColor(const QColor& color)
 {
     m_progressColor = color;
 }
 
-/// Sets whether the colour follows the value, the default. It shows with the next repaint. (The
+/// Whether the colour follows the value; true by default.
+bool CProgressBar::isGradientEnabled() const
+{
+    return m_gradientEnabled;
+}
+
+/// Sets whether the colour follows the value. It shows with the next repaint. (The
 /// spelling of the name is kept.)
 void CProgressBar::setGradientEabled(bool enabled)
 {

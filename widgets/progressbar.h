@@ -12,15 +12,29 @@
 class CWIDGET_EXPORT CProgressBar : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(int minimum READ minimum WRITE setMinimum)
+    Q_PROPERTY(int maximum READ maximum WRITE setMaximum)
+    Q_PROPERTY(int value READ value WRITE setValue)
+    Q_PROPERTY(QColor borderColor READ borderColor WRITE setBorderColor)
+    Q_PROPERTY(QColor progressColor READ progressColor WRITE setProgressColor)
+    Q_PROPERTY(bool gradientEnabled READ isGradientEnabled WRITE setGradientEabled)
 
 public:
     explicit CProgressBar(QWidget* parent = 0);
     ~CProgressBar() override;
 
     void setRange(int minimum, int maximum);
+    int minimum() const;
+    void setMinimum(int minimum);
+    int maximum() const;
+    void setMaximum(int maximum);
+    int value() const;
     void setValue(int value);
+    QColor borderColor() const;
     void setBorderColor(const QColor& color);
+    QColor progressColor() const;
     void setProgressColor(const QColor& color);
+    bool isGradientEnabled() const;
     void setGradientEabled(bool enabled);
 
     QRect getProgressRect() const;

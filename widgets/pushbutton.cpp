@@ -33,6 +33,10 @@ const struct StyleRow {
     // clang-format on
 };
 
+// What the button keeps beside the attributes of the states.
+const CPushButton::ExtraAttr styleAttr = static_cast<CPushButton::ExtraAttr>(-1);
+const CPushButton::ExtraAttr normalSizeAttr = static_cast<CPushButton::ExtraAttr>(-2);
+
 // The attributes of each state, by the state's number.
 const struct StateRow {
     CPushButton::ExtraAttr pixmap;
@@ -94,7 +98,13 @@ void CPushButton::setText(const QString& text)
     update();
 }
 
-/// Shows the text, or hides it when \a size is 0, and repaints. Any other value, 10 by default,
+/// 0 while the text is hidden; 10 by default.
+int CPushButton::getTextSize() const
+{
+    return m_textSize;
+}
+
+/// Shows the text, or hides it when \a size is 0, and repaints. Any other value
 /// only shows it: the size of the letters is that of the widget's font.
 void CPushButton::setTextSize(int size)
 {
@@ -168,14 +178,51 @@ void CPushButton::setExtraAttr(ExtraAttr attr, const QVariant& value)
 /// it.
 void CPushButton::setStyle(ButtonStyle style, bool normalSize)
 {
-    const StyleRow* row = rowOf(styles, style);
-    if (!row)
-        row = &styles[DefaultStyle];
+    const bool known = rowOf(styles, style) != 0;
+    const StyleRow* const row = known ? rowOf(styles, style) : &styles[DefaultStyle];
+    m_extraAttrs.insert(styleAttr, static_cast<int>(known ? style : DefaultStyle));
+    m_extraAttrs.insert(normalSizeAttr, normalSize);
     const QPixmap released = CWidgetStyle::getButtonStatus(row->released, normalSize);
     setBackground(released);
     setExtraAttr(PressedPixmap, CWidgetStyle::getButtonStatus(row->pressed, normalSize));
     setExtraAttr(ReleasedPixmap, released);
     setTextColor(Qt::white);
+}
+
+/// The look last given to setStyle(); NoStyle, the default, when there is none.
+CPushButton::ButtonStyle CPushButton::buttonStyle() const
+{
+    return static_cast<ButtonStyle>(
+        m_extraAttrs.value(styleAttr, static_cast<int>(NoStyle)).toInt());
+}
+
+/// Gives the button one of the ready-made looks, as setStyle() with isNormalSize(). NoStyle takes
+/// the pictures of the released and the pressed button away and makes the text black.
+void CPushButton::setButtonStyle(ButtonStyle style)
+{
+    if (style != NoStyle) {
+        setStyle(style, isNormalSize());
+        return;
+    }
+    m_extraAttrs.remove(styleAttr);
+    m_extraAttrs.remove(PressedPixmap);
+    m_extraAttrs.remove(ReleasedPixmap);
+    setBackground(QPixmap());
+    setTextColor(Qt::black);
+}
+
+/// Whether a ready-made look has the pictures of normal size, the default, or the big ones.
+bool CPushButton::isNormalSize() const
+{
+    return m_extraAttrs.value(normalSizeAttr, true).toBool();
+}
+
+/// Sets the size of the pictures, those of the look that the button has included.
+void CPushButton::setNormalSize(bool normalSize)
+{
+    m_extraAttrs.insert(normalSizeAttr, normalSize);
+    if (buttonStyle() != NoStyle)
+        setStyle(buttonStyle(), normalSize);
 }
 
 /// What was last given to setSelected(); false by default. A click does not change it.

@@ -12,9 +12,24 @@
 
 /// The touch button: a ground of a colour, a border, a picture that fills it, an icon and a text.
 /// For each of its states it may have a picture and a text colour, which the state brings up.
+///
+/// The text that it shows is its own: setText() and getText() reach it through a pointer of this
+/// class, and so does the property "text". That of Qt's button, which QPushButton::text() returns
+/// and which a pointer of that class sets, is never shown.
 class CWIDGET_EXPORT CPushButton : public QPushButton
 {
     Q_OBJECT
+    Q_PROPERTY(QString text READ getText WRITE setText)
+    Q_PROPERTY(int textSize READ getTextSize WRITE setTextSize)
+    Q_PROPERTY(ButtonStyle buttonStyle READ buttonStyle WRITE setButtonStyle)
+    Q_PROPERTY(bool normalSize READ isNormalSize WRITE setNormalSize)
+    Q_PROPERTY(QColor textColor READ getTextColor WRITE setTextColor)
+    Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
+    Q_PROPERTY(QPixmap background READ getBackground WRITE setBackground)
+    Q_PROPERTY(QColor borderColor READ getBorderColor WRITE setBorderColor)
+    Q_PROPERTY(bool selected READ isSelected WRITE setSelected)
+    Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
+    Q_ENUMS(ButtonStyle)
 
 public:
     enum ButtonState : int {
@@ -33,7 +48,12 @@ public:
         SelectedTextColor = 6
     };
 
-    enum ButtonStyle : int {
+    enum ButtonStyle
+#ifndef Q_MOC_RUN // Qt 4's reads no underlying type
+        : int
+#endif
+    {
+        NoStyle = -1,     ///< none of them was set
         DefaultStyle = 0, ///< grey
         GreenStyle = 1,
         OrangeStyle = 2,
@@ -48,6 +68,7 @@ public:
 
     QString getText() const;
     void setText(const QString& text);
+    int getTextSize() const;
     void setTextSize(int size);
     QColor getTextColor() const;
     void setTextColor(const QColor& color);
@@ -61,6 +82,10 @@ public:
     void setExtraAttr(ExtraAttr attr, const QVariant& value);
     void setStyle(ButtonStyle style, bool normalSize);
     using QPushButton::setStyle;
+    ButtonStyle buttonStyle() const;
+    void setButtonStyle(ButtonStyle style);
+    bool isNormalSize() const;
+    void setNormalSize(bool normalSize);
 
     bool isSelected() const;
     void setSelected(bool selected);
