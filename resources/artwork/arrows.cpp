@@ -23,13 +23,13 @@ const char* const Arrows[][MostArrows] = {
       "Si2 M 10 16 L 10 4.5 M 5 9 L 10 4 L 15 9",
       "Si2 M 4 10 L 15.5 10 M 11 5 L 16 10 L 11 15",
       "Si2 M 10 4 L 10 15.5 M 5 11 L 10 16 L 15 11" },
-    { "Dpp2 M 17 5 L 7.5 13 L 17 21 Z", "Dpp2 M 9 5 L 18.5 13 L 9 21 Z" },
-    { "Daa2 M 17 5 L 7.5 13 L 17 21 Z", "Daa2 M 9 5 L 18.5 13 L 9 21 Z" },
-    { "Dii1.5 M 5.5 8 L 14.5 8 L 10 12.75 Z" },
+    { "Sp3 M 16.5 5.5 L 9 13 L 16.5 20.5", "Sp3 M 9.5 5.5 L 17 13 L 9.5 20.5" },
+    { "Sa3 M 16.5 5.5 L 9 13 L 16.5 20.5", "Sa3 M 9.5 5.5 L 17 13 L 9.5 20.5" },
+    { "Si3 M 5 7.5 L 10 12.5 L 15 7.5" },
 };
 // clang-format on
 
-const Scheme ArrowColours = {Palette::Ink, Palette::Black, Palette::White, Palette::Idle};
+const Scheme ArrowColours = {Palette::Ink, Palette::Black, Palette::White, Palette::Inactive};
 
 void drawArrow(QPainter& painter, const QSize&, int index, int strip)
 {

@@ -6,7 +6,6 @@
 #include <QFont>
 #include <QFontMetrics>
 #include <QImage>
-#include <QLinearGradient>
 #include <QPainter>
 #include <QRect>
 #include <QString>
@@ -34,8 +33,8 @@ const int NameSize = 12;
 const int DetailSize = 11;
 
 const QRgb SheetGround = 0xfff4f5fa;
-const QRgb LightSwatch = Palette::Lavender;
-const QRgb DarkSwatch = Palette::BarBottom;
+const QRgb LightSwatch = 0xffe7e9eb;
+const QRgb DarkSwatch = Palette::Bar;
 const QRgb BlackSwatch = Palette::Black;
 const QRgb SwatchEdge = 0xffc3c5d8;
 const QRgb NameColour = 0xff2b2e3a;
@@ -224,15 +223,12 @@ void drawSample(QPainter& painter, const QList<PictureGroup>& groups, const Bloc
 void drawHeader(QPainter& painter, int pictures)
 {
     const QRect header(0, 0, SheetWidth, HeaderHeight);
-    QLinearGradient ground(0, 0, 0, HeaderHeight);
-    ground.setColorAt(0, QColor(Palette::BarTop));
-    ground.setColorAt(1, QColor(Palette::BarBottom));
-    painter.fillRect(header, ground);
-    painter.fillRect(QRect(0, HeaderHeight - 3, SheetWidth, 3), QColor(Palette::VioletLit));
+    painter.fillRect(header, QColor(Palette::Bar));
+    painter.fillRect(QRect(0, HeaderHeight - 1, SheetWidth, 1), QColor(Palette::Violet));
     const QRect text = header.adjusted(Margin, 12, -Margin, -38);
     drawText(painter, text, TitleSize, true, Palette::White, QString::fromLatin1("Pictures"));
     drawText(painter, text.translated(0, 31), NameSize + 1, false, Palette::Lavender,
-             QString::fromLatin1("%1 images, shown in their own size on the grounds that they are "
+             QString::fromLatin1("%1 images, shown in their own size on the backgrounds they are "
                                  "meant for")
                  .arg(pictures));
 }

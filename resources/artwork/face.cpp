@@ -1,8 +1,5 @@
 #include "face.h"
 
-#include "palette.h"
-
-#include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
 #include <QRectF>
@@ -10,23 +7,14 @@
 namespace
 {
 
-// Widths in px, opacities from 0 to 255
-const int HighlightAlpha = 78;
-const int LipAlpha = 56;
-const qreal ShadowHeight = 7;
-const int ShadowAlpha = 120;
-const int RefractionAlpha = 40;
-const qreal GlowWidth = 0.25; // wider than the rim
-const int GlowAlpha = 60;
-const qreal PlateLineWidth = 1;
+const int EdgeShade = 118; // the edge is the fill, 15 % darker
+const qreal EdgeHeight = 1;
 
 // clang-format off
-const Face NeutralFaces[] = {
-    // depth   top         bottom      edge        rim
-    { Raised, 0xff6d7383, 0xff555a69, 0xff383c48, 0          },
-    { Sunken, 0xff454956, 0xff4f5462, 0xff2c2f39, 0          },
-    { Lit,    0xff5c5880, 0xff6f6a94, 0xff403c5c, 0xffdedcff },
-    { Plate,  0xff5d5f6e, 0xff5d5f6e, 0xff5d5f6e, 0xff80839a },
+const Face ToolFaces[] = {
+    { Palette::Slate, true, 0, 0, 0 },
+    PressedFace,
+    { Palette::Selected, false, Palette::Lavender, 1, 3 },
 };
 // clang-format on
 
@@ -35,77 +23,39 @@ QRectF inset(const QRectF& box, qreal by)
     return box.adjusted(by, by, -by, -by);
 }
 
-QPainterPath rounded(const QRectF& box, qreal radius)
+void fillRounded(QPainter& painter, const QRectF& box, qreal radius, const QColor& colour)
 {
     QPainterPath path;
     path.addRoundedRect(box, qMax<qreal>(radius, 0), qMax<qreal>(radius, 0));
-    return path;
+    painter.fillPath(path, colour);
 }
 
-QLinearGradient downward(const QRectF& box, const QColor& top, const QColor& bottom)
+// The edge shows below the fill, which ends a pixel higher; the upper corners stay the fill's own.
+void fillEdge(QPainter& painter, const QRectF& box, qreal radius, const QColor& fill)
 {
-    QLinearGradient gradient(box.topLeft(), box.bottomLeft());
-    gradient.setColorAt(0, top);
-    gradient.setColorAt(1, bottom);
-    return gradient;
-}
-
-void drawInnerLine(QPainter& painter, const QRectF& body, const QColor& colour, qreal width,
-                   qreal radius)
-{
-    painter.strokePath(rounded(inset(body, width / 2), radius - width / 2),
-                       QPen(QBrush(colour), width));
-}
-
-void drawRaised(QPainter& painter, const QRectF& body, qreal radius, qreal lip)
-{
-    const QPainterPath shape = rounded(body, radius);
-    painter.fillPath(shape - shape.translated(0, 1), translucent(Palette::White, HighlightAlpha));
-    painter.fillPath(shape - shape.translated(0, -lip), translucent(Palette::Black, LipAlpha));
-}
-
-void drawSunken(QPainter& painter, const QRectF& body, qreal radius)
-{
-    const QRectF shadow(body.topLeft(), QSizeF(body.width(), ShadowHeight));
-    const QPainterPath shape = rounded(body, radius);
-    QPainterPath upper;
-    upper.addRect(shadow);
-    painter.fillPath(shape & upper, downward(shadow, translucent(Palette::Black, ShadowAlpha),
-                                             translucent(Palette::Black, 0)));
-    painter.fillPath(shape - shape.translated(0, -1), translucent(Palette::White, RefractionAlpha));
-}
-
-void drawLit(QPainter& painter, const QRectF& body, qreal radius, QRgb colour, qreal rim)
-{
-    drawInnerLine(painter, body, translucent(colour, GlowAlpha), rim + GlowWidth, radius);
-    drawInnerLine(painter, body, QColor(colour), rim, radius);
+    painter.save();
+    painter.setClipRect(box.adjusted(0, box.height() / 2, 0, 0), Qt::IntersectClip);
+    fillRounded(painter, box, radius, fill.darker(EdgeShade));
+    painter.restore();
 }
 
 } // namespace
 
-void drawFace(QPainter& painter, const QRectF& box, const Face& face, const Build& build)
+void drawFace(QPainter& painter, const QRectF& box, const Face& face, qreal radius)
 {
-    const QRectF body = inset(box, build.edge);
-    const qreal radius = build.radius - build.edge;
-    painter.fillPath(rounded(box, build.radius), QColor(face.edge));
-    painter.fillPath(rounded(body, radius), downward(body, QColor(face.top), QColor(face.bottom)));
-    switch (face.depth) {
-    case Raised:
-        drawRaised(painter, body, radius, build.lip);
-        break;
-    case Sunken:
-        drawSunken(painter, body, radius);
-        break;
-    case Lit:
-        drawLit(painter, body, radius, face.rim, build.rim);
-        break;
-    case Plate:
-        drawInnerLine(painter, body, QColor(face.rim), PlateLineWidth, radius);
-        break;
-    }
+    const QColor fill = QColor::fromRgba(face.fill);
+    if (face.edge)
+        fillEdge(painter, box, radius, fill);
+    if (face.lineBox > 0 || face.lineEnd == face.lineBox)
+        fillRounded(painter, face.edge ? box.adjusted(0, 0, 0, -EdgeHeight) : box, radius, fill);
+    if (face.lineEnd == face.lineBox)
+        return;
+    fillRounded(painter, inset(box, face.lineBox), radius - face.lineBox,
+                QColor::fromRgba(face.line));
+    fillRounded(painter, inset(box, face.lineEnd), radius - face.lineEnd, fill);
 }
 
-const Face& neutralFace(Depth depth)
+const Face& toolFace(Look look)
 {
-    return NeutralFaces[depth];
+    return ToolFaces[look];
 }

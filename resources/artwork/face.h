@@ -1,44 +1,43 @@
 #ifndef ARTWORK_FACE_H
 #define ARTWORK_FACE_H
 
+#include "palette.h"
+
 #include <QColor>
 
 class QPainter;
 class QRectF;
 
-// How a surface stands against the panel; the light comes from above.
-enum Depth {
-    Raised, // to be touched: light line on top, soft edge at the bottom
-    Sunken, // under the finger: shadow on top
-    Lit,    // chosen: bright rim
-    Plate   // not to be touched: flat, with a fine line inside
-};
-
-// Colours and build of one surface: button, key or tile.
+// Colours and build of one surface: button, key or tile. Everything is flat: a surface has one
+// colour, and either a fine edge at the bottom, a line around it, or nothing more.
 struct Face {
-    Depth depth;
-    QRgb top; // of the vertical gradient
-    QRgb bottom;
-    QRgb edge; // one pixel around the surface
-    QRgb rim;  // Lit: the bright line; Plate: the fine line; else not used
+    QRgb fill;
+    bool edge;     // one darker pixel along the bottom: waits for a finger
+    QRgb line;     // an outline or an inset ring,
+    qreal lineBox; // which begins so many px inside the surface
+    qreal lineEnd; // and ends there; no line where both are the same
 };
 
-// Widths of a surface's parts, px.
-struct Build {
-    qreal radius; // of the outer corners
-    qreal edge;
-    qreal lip; // dark edge inside the bottom of a raised surface
-    qreal rim; // bright line of a lit surface
-};
+// What is under a finger: the outline shows around the fingertip.
+const Face PressedFace = {Palette::Pressed, false, Palette::Halo, 0, 2};
 
-// The build of nearly everything.
-const Build SlimBuild = {3, 1, 2, 1.5};
+// What is chosen, in every colour: a fill of its own and a bright ring.
+const Face SelectedFace = {Palette::Selected, false, Palette::Lavender, 2, 5};
+
+// Radius of the outer corners, px.
+const qreal ButtonRadius = 6;
+const qreal SmallRadius = 4;
 
 // Fills \a box up to its edges with the surface.
-void drawFace(QPainter& painter, const QRectF& box, const Face& face,
-              const Build& build = SlimBuild);
+void drawFace(QPainter& painter, const QRectF& box, const Face& face, qreal radius);
 
-// The cool grey surface that arrow buttons, spin buttons and the grey button strip share.
-const Face& neutralFace(Depth depth);
+enum Look {
+    Released,
+    UnderFinger,
+    Chosen
+};
+
+// The looks of the small buttons and of the close button.
+const Face& toolFace(Look look);
 
 #endif

@@ -1,9 +1,10 @@
 // Draws the picture collection of the widget library.
 //
-// Usage: artwork OUTPUT_DIR [--contact-sheet FILE]
+// Usage: artwork OUTPUT_DIR [--contact-sheet FILE] [--hashes FILE]
 
 #include "contactsheet.h"
 #include "picture.h"
+#include "picturefile.h"
 
 #include <QApplication>
 #include <QDir>
@@ -24,7 +25,11 @@ enum ExitCode {
     WrongUsage
 };
 
-const char SheetOption[] = "--contact-sheet";
+struct Options {
+    const char* folder;
+    const char* sheet;  // null: not wanted
+    const char* hashes; // the same
+};
 
 QList<PictureGroup> allGroups()
 {
@@ -49,10 +54,28 @@ bool savePictures(const QList<PictureGroup>& groups, const QDir& folder)
     for (int i = 0; i < groups.count(); ++i) {
         for (int k = 0; k < groups.at(i).count; ++k) {
             const Picture& picture = groups.at(i).pictures[k];
-            saved &= save(render(picture), folder.filePath(QString::fromLatin1(picture.name)));
+            saved &= save(withPalette(render(picture)),
+                          folder.filePath(QString::fromLatin1(picture.name)));
         }
     }
     return saved;
+}
+
+// One line for each picture: its hash, two blanks, its name.
+bool saveHashes(const QList<PictureGroup>& groups, const QString& path)
+{
+    QByteArray lines;
+    for (int i = 0; i < groups.count(); ++i) {
+        for (int k = 0; k < groups.at(i).count; ++k) {
+            const Picture& picture = groups.at(i).pictures[k];
+            lines += pixelHash(render(picture)) + "  " + picture.name + '\n';
+        }
+    }
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(lines) == lines.size() && file.flush())
+        return true;
+    std::fprintf(stderr, "artwork: cannot write %s\n", path.toLocal8Bit().constData());
+    return false;
 }
 
 // The sheet carries text; no display is needed for that.
@@ -67,20 +90,38 @@ bool saveSheet(const QList<PictureGroup>& groups, const QString& path)
     return save(drawContactSheet(groups), path);
 }
 
+bool readOptions(int argc, char** argv, Options* options)
+{
+    if (argc % 2 != 0)
+        return false;
+    options->folder = argv[1];
+    for (int i = 2; i < argc; i += 2) {
+        if (std::strcmp(argv[i], "--contact-sheet") == 0)
+            options->sheet = argv[i + 1];
+        else if (std::strcmp(argv[i], "--hashes") == 0)
+            options->hashes = argv[i + 1];
+        else
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
-    const bool withSheet = argc == 4 && std::strcmp(argv[2], SheetOption) == 0;
-    if (argc != 2 && !withSheet) {
-        std::fprintf(stderr, "Usage: artwork OUTPUT_DIR [%s FILE]\n", SheetOption);
+    Options options = {0, 0, 0};
+    if (!readOptions(argc, argv, &options)) {
+        std::fprintf(stderr, "Usage: artwork OUTPUT_DIR [--contact-sheet FILE] [--hashes FILE]\n");
         return WrongUsage;
     }
 
-    const QDir folder(QFile::decodeName(argv[1]));
+    const QDir folder(QFile::decodeName(options.folder));
     const QList<PictureGroup> groups = allGroups();
     bool saved = folder.mkpath(QString::fromLatin1(".")) && savePictures(groups, folder);
-    if (withSheet)
-        saved &= saveSheet(groups, QFile::decodeName(argv[3]));
+    if (options.hashes)
+        saved &= saveHashes(groups, QFile::decodeName(options.hashes));
+    if (options.sheet)
+        saved &= saveSheet(groups, QFile::decodeName(options.sheet));
     return saved ? Done : CannotWrite;
 }

@@ -8,30 +8,30 @@
 namespace Palette
 {
 
-// Neutrals
-const QRgb White = 0xffffffff;
+// Signs
+const QRgb White = 0xffffffff;     // active, on dark backgrounds
+const QRgb Inactive = 0xff8c91a8;  // the same, not active
+const QRgb Attention = 0xffffb000; // wants to be looked at
+const QRgb Ink = 0xff363b4a;       // on light backgrounds
+const QRgb Steady = 0xff757a95;    // reads on dark and light backgrounds
+const QRgb Paper = 0xffffffff;     // light areas inside a sign
 const QRgb Black = 0xff000000;
-const QRgb Ink = 0xff363b4a;     // strokes of icons on a light ground
-const QRgb Paper = 0xfff8f9fd;   // light areas inside an icon
-const QRgb Outline = 0xff1d2029; // thin outline of signs that stand on dark and light grounds
-const QRgb Idle = 0xff858aa0;    // what is there but not lit; reads on dark and light grounds
+
+// Surfaces
+const QRgb Slate = 0xff444b66;    // what is touched
+const QRgb Pressed = 0xff20232f;  // under the finger
+const QRgb Halo = 0xff8f88c4;     // around what is under the finger
+const QRgb Selected = 0xff4a4578; // chosen
+const QRgb Lavender = 0xffe0e0ff; // ring or bar of what is chosen
+const QRgb Violet = 0xff635e80;   // fixed; lines of the bars; the current menu entry
+const QRgb Bar = 0xff2b2e3b;      // title, menu and bottom bar
+const QRgb Divider = 0xff43475a;  // between two entries of a bar
 
 // Accents
-const QRgb Violet = 0xff635e80;
-const QRgb VioletLit = 0xff8f89bd;
-const QRgb Lavender = 0xffe0e0ff;
-const QRgb Green = 0xff2f9e55;
-const QRgb GreenLit = 0xff6fe08f;
-const QRgb Yellow = 0xfff4cf3a;
-const QRgb Amber = 0xfff0b040;
-const QRgb Orange = 0xffee8322;
-const QRgb Red = 0xffd23b40;
-const QRgb Blue = 0xff3a78c8;
-const QRgb BlueLit = 0xff6fb2f5;
-
-// Title strip and menu bar
-const QRgb BarTop = 0xff4b4e62;
-const QRgb BarBottom = 0xff363948;
+const QRgb Green = 0xff1b6e3f;
+const QRgb GreenLit = 0xff5fd08d;
+const QRgb Orange = 0xffa34f00;
+const QRgb Red = 0xffb3262e;
 
 } // namespace Palette
 

@@ -22,6 +22,7 @@ const QRect EntryBox(835, 22, 341, 54);
 const QRect BackspaceBox(1126, 350, 50, 40);
 const int TextSize = 13;
 
+const QRgb Page = 0xffe7e9eb;
 const QRgb White = Palette::White;
 const QRgb Black = Palette::Black;
 
@@ -66,8 +67,8 @@ const Part Parts[] = {
     { Title, 0, 0, 0, 800, 44, "", White, Middle },
     { "", 0, 20, 0, 300, 44, "Pump station 3", White, Left },
     { "MISC_PROGCLK_11states.png", 3, 630, 7, 0, 0, "", White, Middle },
-    { "wireless-75.png", 0, 680, 9, 0, 0, "", White, Middle },
-    { "object-locked.png", 0, 720, 13, 0, 0, "", White, Middle },
+    { "object-locked.png", 0, 680, 14, 0, 0, "", White, Middle },
+    { "wireless-connected.png", 0, 714, 5, 0, 0, "", White, Middle },
     { "TB_CLOSE_3states.png", 0, 756, 0, 0, 0, "", White, Middle },
     { Title, 0, 0, 44, 800, 50, "", White, Middle },
     { Menu, 0, 0, 44, 0, 0, "Overview", White, Middle },
@@ -114,20 +115,23 @@ const Part Parts[] = {
     { Tiles, 6, 643, 158, 0, 0, "", White, Middle },
     { Tiles, 10, 540, 210, 0, 0, "", White, Middle },
     { Tiles, 12, 643, 210, 0, 0, "", White, Middle },
-    { "computer-laptop.png", 0, 540, 268, 0, 0, "", White, Middle },
-    { "mobile-phone.png", 0, 586, 268, 0, 0, "", White, Middle },
-    { "bluetooth-device.png", 0, 632, 268, 0, 0, "", White, Middle },
-    { "fileopen.png", 0, 678, 268, 0, 0, "", White, Middle },
-    { "wireless-connected.png", 0, 724, 268, 0, 0, "", White, Middle },
-    { "back.png", 0, 541, 316, 0, 0, "", White, Middle },
-    { "Forward.png", 0, 587, 316, 0, 0, "", White, Middle },
-    { "Reload.png", 0, 633, 316, 0, 0, "", White, Middle },
-    { "Stop.png", 0, 679, 316, 0, 0, "", White, Middle },
-    { "backlight.png", 2, 540, 366, 0, 0, "", White, Middle },
-    { "spin_minus.png", 0, 600, 372, 0, 0, "", White, Middle },
-    { "spin_plus.png", 0, 636, 372, 0, 0, "", White, Middle },
-    { "zoom_in.png", 0, 684, 375, 0, 0, "", White, Middle },
-    { "zoom_out.png", 0, 717, 375, 0, 0, "", White, Middle },
+    { "computer-laptop.png", 0, 540, 264, 0, 0, "", White, Middle },
+    { "mobile-phone.png", 0, 588, 264, 0, 0, "", White, Middle },
+    { "bluetooth-device.png", 0, 636, 264, 0, 0, "", White, Middle },
+    { "zoom.png", 0, 692, 269, 0, 0, "", White, Middle },
+    { Gray, 0, 540, 308, 52, 40, "", White, Middle },
+    { "back.png", 0, 551, 313, 0, 0, "", White, Middle },
+    { Gray, 0, 600, 308, 52, 40, "", White, Middle },
+    { "Forward.png", 0, 611, 313, 0, 0, "", White, Middle },
+    { Gray, 0, 660, 308, 52, 40, "", White, Middle },
+    { "Reload.png", 0, 671, 313, 0, 0, "", White, Middle },
+    { Gray, 0, 720, 308, 52, 40, "", White, Middle },
+    { "fileopen.png", 0, 730, 312, 0, 0, "", White, Middle },
+    { "backlight.png", 2, 540, 364, 0, 0, "", White, Middle },
+    { "spin_minus.png", 0, 600, 370, 0, 0, "", White, Middle },
+    { "spin_plus.png", 0, 636, 370, 0, 0, "", White, Middle },
+    { "zoom_in.png", 0, 684, 373, 0, 0, "", White, Middle },
+    { "zoom_out.png", 0, 717, 373, 0, 0, "", White, Middle },
     { PageArrow, 1, 312, 428, 0, 0, "", White, Middle },
     { "", 0, 338, 428, 124, 20, "Page 2 of 5", Black, Middle },
     { PageArrow, 3, 462, 428, 0, 0, "", White, Middle },
@@ -196,7 +200,7 @@ void drawPart(QPainter& painter, const Part& part, const Picture* picture)
 
 void drawGrounds(QPainter& painter)
 {
-    painter.fillRect(PanelBox, QColor(Palette::Lavender));
+    painter.fillRect(PanelBox, QColor(Page));
     painter.fillRect(KeypadBox, QColor(Palette::Black));
     painter.fillRect(EntryBox, QColor(Palette::White));
 }

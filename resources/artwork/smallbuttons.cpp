@@ -10,14 +10,12 @@ namespace
 {
 
 const int MostLooks = 4;
-const int PressedDrop = 1; // px that a sign goes down with its button
 
-const Scheme OnFace = {Palette::White, Palette::Lavender, Palette::White, Palette::Lavender};
+const Scheme OnFace = {Palette::White, Palette::White, Palette::White, Palette::Inactive};
 
 // A sign in the 16 px box that the zoom pictures share with the zoom buttons
-const char ZoomInSign[] = "Si2 O 7 7 5.5;Bi2 M 4 7 L 10 7 M 7 4 L 7 10;"
-                          "Si2.5 M 11.6 11.6 L 14.2 14.2";
-const char ZoomOutSign[] = "Si2 O 7 7 5.5;Bi2 M 4 7 L 10 7;Si2.5 M 11.6 11.6 L 14.2 14.2";
+const char ZoomInSign[] = "Si2 O 7 7 5 M 5 7 L 9 7 M 7 5 L 7 9 M 11 11 L 14 14";
+const char ZoomOutSign[] = "Si2 O 7 7 5 M 5 7 L 9 7 M 11 11 L 14 14";
 
 // --- buttons with a face -------------------------------------------------------------------------
 
@@ -34,49 +32,48 @@ enum Tool {
 };
 
 struct ToolCell {
-    Depth depth;
+    Look look;
     const char* sign;
-    int x; // where the sign's box begins
-    int y;
 };
 
-const char LeftSign[] = "Si2.5 M 15.5 5 L 10.5 10 L 15.5 15";
-const char RightSign[] = "Si2.5 M 10.5 5 L 15.5 10 L 10.5 15";
-const char UpSign[] = "Si2.5 M 6.5 22.75 L 12 17.25 L 17.5 22.75";
-const char DownSign[] = "Si2.5 M 6.5 17.25 L 12 22.75 L 17.5 17.25";
-const char MinusSign[] = "Fi R 7 13 14 2 0";
-const char PlusSign[] = "Fi R 7 13 14 2 0 R 13 7 2 14 0";
-const char NextPageSign[] = "Si2 M 7.5 6 L 12.5 11 L 7.5 16 M 13.5 6 L 18.5 11 L 13.5 16";
-const char PrevPageSign[] = "Si2 M 17.5 6 L 12.5 11 L 17.5 16 M 11.5 6 L 6.5 11 L 11.5 16";
+const char LeftSign[] = "Si3 M 15.5 5 L 10.5 10 L 15.5 15";
+const char RightSign[] = "Si3 M 10.5 5 L 15.5 10 L 10.5 15";
+const char UpSign[] = "Si3 M 6.5 22.75 L 12 17.25 L 17.5 22.75";
+const char DownSign[] = "Si3 M 6.5 17.25 L 12 22.75 L 17.5 17.25";
+const char MinusSign[] = "Si2.5 M 8 14 L 20 14";
+const char PlusSign[] = "Si2.5 M 8 14 L 20 14 M 14 8 L 14 20";
+const char NextPageSign[] = "Si2.5 M 7.5 6 L 12.5 11 L 7.5 16 M 13.5 6 L 18.5 11 L 13.5 16";
+const char PrevPageSign[] = "Si2.5 M 17.5 6 L 12.5 11 L 17.5 16 M 11.5 6 L 6.5 11 L 11.5 16";
+const char ZoomInToolSign[] = "Si2 O 12 10 5 M 10 10 L 14 10 M 12 8 L 12 12 M 16 14 L 19 17";
+const char ZoomOutToolSign[] = "Si2 O 12 10 5 M 10 10 L 14 10 M 16 14 L 19 17";
 
 // One row for each strip, its cells from the left.
 // clang-format off
 const ToolCell ToolCells[][MostLooks] = {
-    { { Sunken, LeftSign,     0, 0 }, { Raised, LeftSign,     0, 0 },
-      { Sunken, RightSign,    0, 0 }, { Raised, RightSign,    0, 0 } },
-    { { Sunken, UpSign,       0, 0 }, { Lit,    UpSign,       0, 0 }, { Raised, UpSign,   0, 0 } },
-    { { Sunken, DownSign,     0, 0 }, { Lit,    DownSign,     0, 0 }, { Raised, DownSign, 0, 0 } },
-    { { Raised, MinusSign,    0, 0 }, { Sunken, MinusSign,    0, 0 } },
-    { { Raised, PlusSign,     0, 0 }, { Sunken, PlusSign,     0, 0 } },
-    { { Raised, NextPageSign, 0, 0 }, { Sunken, NextPageSign, 0, 0 } },
-    { { Raised, PrevPageSign, 0, 0 }, { Sunken, PrevPageSign, 0, 0 } },
-    { { Raised, ZoomInSign,   5, 3 }, { Sunken, ZoomInSign,   5, 3 } },
-    { { Raised, ZoomOutSign,  5, 3 }, { Sunken, ZoomOutSign,  5, 3 } },
+    { { UnderFinger, LeftSign  }, { Released, LeftSign  },
+      { UnderFinger, RightSign }, { Released, RightSign } },
+    { { UnderFinger, UpSign    }, { Chosen,   UpSign    }, { Released, UpSign   } },
+    { { UnderFinger, DownSign  }, { Chosen,   DownSign  }, { Released, DownSign } },
+    { { Released, MinusSign       }, { UnderFinger, MinusSign       } },
+    { { Released, PlusSign        }, { UnderFinger, PlusSign        } },
+    { { Released, NextPageSign    }, { UnderFinger, NextPageSign    } },
+    { { Released, PrevPageSign    }, { UnderFinger, PrevPageSign    } },
+    { { Released, ZoomInToolSign  }, { UnderFinger, ZoomInToolSign  } },
+    { { Released, ZoomOutToolSign }, { UnderFinger, ZoomOutToolSign } },
 };
 // clang-format on
 
 void drawTool(QPainter& painter, const QSize& cell, int index, int tool)
 {
     const ToolCell& look = ToolCells[tool][index];
-    drawFace(painter, QRectF(QPointF(0, 0), cell), neutralFace(look.depth));
-    painter.translate(look.x, look.y + (look.depth == Sunken ? PressedDrop : 0));
+    drawFace(painter, QRectF(QPointF(0, 0), cell), toolFace(look.look), SmallRadius);
     drawShape(painter, look.sign, OnFace);
 }
 
-// --- signs without a face: plain when released, on a violet plate while pressed ------------------
+// --- signs without a face: ink when released, white on a dark plate while pressed ----------------
 
-const Face SignPlate = {Plate, 0xff6f6a94, 0xff6f6a94, 0xff6f6a94, 0xff6f6a94};
-const Scheme OnPanel = {Palette::Ink, Palette::Violet, Palette::Paper, Palette::Idle};
+const Face SignPlate = {Palette::Pressed, false, 0, 0, 0};
+const Scheme OnPanel = {Palette::Ink, Palette::Ink, Palette::Paper, Palette::Inactive};
 
 const char PreviousSign[] = "Si2 M 13 8 L 3.5 8 M 7.5 3.5 L 3 8 L 7.5 12.5";
 const char NextSign[] = "Si2 M 3 8 L 12.5 8 M 8.5 3.5 L 13 8 L 8.5 12.5";
@@ -94,7 +91,7 @@ void drawBare(QPainter& painter, const QSize& cell, int index, int sign)
 {
     const bool pressed = index > 0;
     if (pressed)
-        drawFace(painter, QRectF(QPointF(0, 0), cell), SignPlate);
+        drawFace(painter, QRectF(QPointF(0, 0), cell), SignPlate, SmallRadius);
     drawShape(painter, BareSigns[sign], pressed ? OnFace : OnPanel);
 }
 

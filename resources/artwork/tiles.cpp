@@ -4,7 +4,6 @@
 #include "shape.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QRectF>
 
 namespace
@@ -12,12 +11,10 @@ namespace
 
 const int TileColumns = 3;
 const int TileRows = 10;
-const Build TileBuild = {4, 1, 2, 1.5};
-const qreal SignBox = 24;   // px, centred in the tile
-const qreal BandHeight = 3; // accent along the bottom, one colour for each row
+const qreal SignBox = 24; // px, centred in the tile
+const qreal TileGap = 1;  // px around each tile
 
-const Face TileFace = {Raised, 0xff5a5e71, 0xff434757, 0xff262934, 0};
-
+// One colour for each row, in a part of its signs
 // clang-format off
 const QRgb RowAccents[TileRows] = {
     0xffb9b4f0, // overview
@@ -84,24 +81,14 @@ const char* const TileSigns[TileRows][TileColumns] = {
 };
 // clang-format on
 
-void drawBand(QPainter& painter, const QSize& cell, QRgb accent)
-{
-    QPainterPath tile;
-    const qreal radius = TileBuild.radius - TileBuild.edge;
-    tile.addRoundedRect(QRectF(QPointF(0, 0), cell).adjusted(1, 1, -1, -1), radius, radius);
-    QPainterPath band;
-    band.addRect(QRectF(0, cell.height() - 1 - BandHeight, cell.width(), BandHeight));
-    painter.fillPath(tile & band, QColor(accent));
-}
-
 void drawTile(QPainter& painter, const QSize& cell, int index, int)
 {
     const int row = index / TileColumns;
-    const Scheme scheme = {Palette::White, RowAccents[row], Palette::White, Palette::Idle};
-    drawFace(painter, QRectF(QPointF(0, 0), cell), TileFace, TileBuild);
-    drawBand(painter, cell, RowAccents[row]);
-    painter.translate(int((cell.width() - SignBox) / 2),
-                      int((cell.height() - BandHeight - SignBox) / 2));
+    const Scheme scheme = {Palette::White, RowAccents[row], Palette::White, Palette::Inactive};
+    const QRectF box(QPointF(0, 0), cell);
+    drawFace(painter, box.adjusted(TileGap, TileGap, -TileGap, -TileGap), toolFace(Released),
+             ButtonRadius);
+    painter.translate(int((cell.width() - SignBox) / 2), int((cell.height() - SignBox) / 2));
     drawShape(painter, TileSigns[row][index % TileColumns], scheme);
 }
 

@@ -122,7 +122,7 @@ void tst_gallery::pictureOpensAboveAndBackReturns()
     QVERIFY(opened.copy(screenRect) != pictures.copy(screenRect));
     // The picture stands unscaled on the light ground.
     const QImage picture(latin(":/images/ARROW-BLACK.png"));
-    QCOMPARE(opened.pixel(140 + 12, 96 + 13), QColor(Qt::black).rgb());
+    QCOMPARE(opened.pixel(140 + 9, 96 + 13), QColor(Qt::black).rgb());
     QVERIFY(!picture.isNull());
     window.click(backRect.center());
     QCOMPARE(window.waitFor(pictures, screenRect), QString());
