@@ -7,20 +7,18 @@
 namespace
 {
 
-const int left = 20;
-const int pitch = 130;
-const int buttonWidth = 120;
-const int buttonHeight = 40;
+const int labelWidth = 200;
+const int labelPitch = 216;
 
 const struct {
     const char* text;
     CPushButton::ButtonStyle style;
 } styles[] = {
     // clang-format off
-    {"Default", CPushButton::DefaultStyle},
-    {"Green",   CPushButton::GreenStyle},
-    {"Orange",  CPushButton::OrangeStyle},
-    {"Red",     CPushButton::RedStyle},
+    {"Details", CPushButton::DefaultStyle},
+    {"Start",   CPushButton::GreenStyle},
+    {"Hold",    CPushButton::OrangeStyle},
+    {"Stop",    CPushButton::RedStyle},
     {"Fixed",   CPushButton::FixedStyle},
     // clang-format on
 };
@@ -28,25 +26,26 @@ const struct {
 const struct {
     const char* text;
     const char* icon;
-    CPushButton::ButtonStyle style;
+    bool enabled;
 } icons[] = {
     // clang-format off
-    {"Back",    "back.png",     CPushButton::DefaultStyle},
-    {"Forward", "Forward.png",  CPushButton::DefaultStyle},
-    {"Reload",  "Reload.png",   CPushButton::DefaultStyle},
-    {"Stop",    "Stop.png",     CPushButton::DefaultStyle},
-    {"",        "fileopen.png", CPushButton::DefaultStyle},
+    {"Back",    "back.png",     true},
+    {"Forward", "Forward.png",  true},
+    {"Reload",  "Reload.png",   true},
+    {"Cancel",  "Stop.png",     true},
+    {"Open",    "fileopen.png", false},
     // clang-format on
 };
 
 const struct {
     const char* caption;
     CLabel::WrapMode mode;
+    const char* text;
 } modes[] = {
     // clang-format off
-    {"NoWrap",   CLabel::NoWrap},
-    {"WordWrap", CLabel::WordWrap},
-    {"CharWrap", CLabel::CharWrap},
+    {"One line",        CLabel::NoWrap,   "Inlet valve V12 is closed."},
+    {"Between words",   CLabel::WordWrap, "Close the inlet valve first (chamber 3 is open)."},
+    {"Between letters", CLabel::CharWrap, "QPS-2047-0091-7C3E-A5D0-118F-92B4"},
     // clang-format on
 };
 
@@ -60,9 +59,14 @@ const struct {
     {"Channel 3", "3/8"},
 };
 
-QRect cell(int column, int y)
+QPoint corner(int column, int y)
 {
-    return QRect(left + column * pitch, y, buttonWidth, buttonHeight);
+    return QPoint(layout::margin + column * layout::buttonPitch, y);
+}
+
+QRect third(int column, int y, int height)
+{
+    return QRect(layout::margin + column * labelPitch, y, labelWidth, height);
 }
 
 } // namespace
@@ -70,85 +74,87 @@ QRect cell(int column, int y)
 ControlsScreen::ControlsScreen(Panel* panel) : Screen(QLatin1String("Controls"), panel), m_clicks(0)
 {
     connect(this, SIGNAL(hint(QString)), panel, SLOT(setHint(QString)));
-    addHeading(QLatin1String("Push buttons"), 12);
-    addStyles(44);
-    addStates(94);
-    addIcons(144);
-    addHeading(QLatin1String("Labels"), 204);
-    addWrapModes(238);
-    addHeading(QLatin1String("Labels with corner texts"), 392);
-    addCornerTexts(426);
+    addHeading(QLatin1String("Push buttons"), layout::firstHeading);
+    addStyles(52);
+    addStates(104);
+    addIcons(156);
+    addHeading(QLatin1String("Labels"), 224);
+    addWrapModes(256);
+    addHeading(QLatin1String("Labels with corner texts"), 388);
+    addCornerTexts(424);
 }
 
 void ControlsScreen::addStyles(int y)
 {
     for (size_t i = 0; i < sizeof styles / sizeof styles[0]; ++i) {
-        CPushButton* button =
-            addButton(QLatin1String(styles[i].text), styles[i].style, cell(static_cast<int>(i), y));
+        CPushButton* button = addButton(QLatin1String(styles[i].text), styles[i].style,
+                                        corner(static_cast<int>(i), y));
         button->setObjectName(QLatin1String("style-") + QLatin1String(styles[i].text));
         connect(button, SIGNAL(clicked()), this, SLOT(buttonClicked()));
     }
 }
 
-/// The looks that a finger brings up, held still: pressed, selected, disabled, and a border.
+/// The looks that a finger brings up, held still: pressed, selected, disabled; and buttons without
+/// a picture.
 void ControlsScreen::addStates(int y)
 {
     CPushButton* pressed =
-        addButton(QLatin1String("Pressed"), CPushButton::DefaultStyle, cell(0, y));
+        addButton(QLatin1String("Pressed"), CPushButton::DefaultStyle, corner(0, y));
+    pressed->setObjectName(QLatin1String("state-pressed"));
     pressed->updateStatus(CPushButton::Pressed);
 
     CPushButton* selected =
-        addButton(QLatin1String("Selected"), CPushButton::GreenStyle, cell(1, y));
+        addButton(QLatin1String("Selected"), CPushButton::GreenStyle, corner(1, y));
+    selected->setObjectName(QLatin1String("state-selected"));
     selected->setExtraAttr(CPushButton::SelectedPixmap,
                            CWidgetStyle::getButtonStatus(CWidgetStyle::GreenSelected, true));
     selected->setSelected(true);
 
     CPushButton* disabled =
-        addButton(QLatin1String("Disabled"), CPushButton::FixedStyle, cell(2, y));
-    disabled->setTextColor(CWidgetStyle::getColor(CWidgetStyle::NameGroundColor));
-    disabled->setEnabled(false);
+        addButton(QLatin1String("Disabled"), CPushButton::DefaultStyle, corner(2, y));
+    disabled->setObjectName(QLatin1String("state-disabled"));
+    disableButton(disabled);
 
     CPushButton* plain = new CPushButton(this);
     plain->setText(QLatin1String("No picture"));
     plain->setTextColor(Qt::white);
-    plain->move(cell(3, y).topLeft());
+    plain->move(corner(3, y));
 
     CPushButton* bordered = new CPushButton(this);
     bordered->setText(QLatin1String("Border"));
-    bordered->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::ControlGroundColor));
+    bordered->setBackgroundColor(Qt::white);
     bordered->setBorderColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
-    bordered->move(cell(4, y).topLeft());
+    bordered->move(corner(4, y));
 }
 
 void ControlsScreen::addIcons(int y)
 {
     for (size_t i = 0; i < sizeof icons / sizeof icons[0]; ++i) {
-        CPushButton* button =
-            addButton(QLatin1String(icons[i].text), icons[i].style, cell(static_cast<int>(i), y));
-        button->setIcon(QIcon(QLatin1String(":/images/") + QLatin1String(icons[i].icon)));
-        button->setIconSize(QSize(24, 24));
+        CPushButton* button = addButton(QLatin1String(icons[i].text), CPushButton::DefaultStyle,
+                                        corner(static_cast<int>(i), y));
+        const QPixmap icon(QLatin1String(":/images/") + QLatin1String(icons[i].icon));
+        button->setIcon(QIcon(icon));
+        button->setIconSize(icon.size());
+        if (!icons[i].enabled)
+            disableButton(button);
         connect(button, SIGNAL(clicked()), this, SLOT(buttonClicked()));
     }
 }
 
 void ControlsScreen::addWrapModes(int y)
 {
-    const QString text = QLatin1String("Close the inlet valve before opening the chamber, and "
-                                       "wait until the lamp is green.");
-    const int width = 206;
     for (size_t i = 0; i < sizeof modes / sizeof modes[0]; ++i) {
-        const int x = left + static_cast<int>(i) * (width + 11);
-        CLabel* caption = plainLabel(QLatin1String(modes[i].caption), this);
-        caption->setTextColor(CWidgetStyle::getColor(CWidgetStyle::Color3));
-        caption->setGeometry(x - 2, y, width, 28);
+        const int column = static_cast<int>(i);
+        addCaption(QLatin1String(modes[i].caption), third(column, y, 28));
         CLabel* label = new CLabel(this);
-        label->setText(text);
+        label->setText(QLatin1String(modes[i].text));
         label->setWrapMode(modes[i].mode);
         label->setBorderWidth(1);
-        label->setBorderColor(CWidgetStyle::getColor(CWidgetStyle::Color5));
+        label->setBorderColor(CWidgetStyle::getColor(CWidgetStyle::Color26));
         label->setBackgroundColor(Qt::white);
-        label->setSize(width, 110);
-        label->move(x, y + 28);
+        const QRect place = third(column, y + 28, 88);
+        label->setSize(place.width(), place.height());
+        label->move(place.topLeft());
         label->setObjectName(QLatin1String("label-") + QLatin1String(modes[i].caption));
         connect(label, SIGNAL(clicked()), this, SLOT(labelClicked()));
     }
@@ -156,13 +162,12 @@ void ControlsScreen::addWrapModes(int y)
 
 void ControlsScreen::addCornerTexts(int y)
 {
-    const int width = 206;
     for (size_t i = 0; i < sizeof values / sizeof values[0]; ++i) {
         CLabel* label = new CLabel(this);
         label->setText(QString::fromUtf8(values[i].text));
         label->setCornerText(QString::fromUtf8(values[i].corner));
-        label->setSize(width, 32);
-        label->move(left + static_cast<int>(i) * (width + 11), y);
+        label->setSize(labelWidth, 32);
+        label->move(third(static_cast<int>(i), y, 32).topLeft());
         connect(label, SIGNAL(clicked()), this, SLOT(labelClicked()));
     }
 }
@@ -170,9 +175,7 @@ void ControlsScreen::addCornerTexts(int y)
 void ControlsScreen::buttonClicked()
 {
     CPushButton* button = qobject_cast<CPushButton*>(sender());
-    Q_EMIT hint(QString::fromLatin1("%1 pressed, click %2")
-                    .arg(button->getText().isEmpty() ? QLatin1String("Icon") : button->getText())
-                    .arg(++m_clicks));
+    Q_EMIT hint(QString::fromLatin1("%1 pressed, click %2").arg(button->getText()).arg(++m_clicks));
 }
 
 void ControlsScreen::labelClicked()

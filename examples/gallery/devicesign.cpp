@@ -6,33 +6,29 @@ namespace
 {
 
 const int side = 24;
+const qreal strokeWidth = 2;
 const QColor bright(0xFF, 0xFF, 0xFF);
-const QColor dim(0x7C, 0x80, 0x92);
+const QColor dim(0x8C, 0x91, 0xA8);
 
 void drawKeyboard(QPainter* painter)
 {
-    painter->drawRoundedRect(QRectF(1.5, 6.5, 21, 12), 2, 2);
-    for (int row = 0; row < 2; ++row) {
-        for (int key = 0; key < 5; ++key)
-            painter->fillRect(QRect(4 + key * 3 + row + key / 2, 9 + row * 3, 2, 1),
-                              painter->pen().color());
-    }
-    painter->fillRect(QRect(7, 15, 10, 1), painter->pen().color());
+    painter->drawRoundedRect(QRectF(2, 6, 20, 13), 2, 2);
+    for (int key = 0; key < 4; ++key)
+        painter->fillRect(QRect(5 + key * 4, 10, 2, 2), painter->pen().color());
+    painter->fillRect(QRect(7, 14, 10, 2), painter->pen().color());
 }
 
 void drawMouse(QPainter* painter)
 {
-    painter->drawRoundedRect(QRectF(6.5, 2.5, 11, 19), 5.5, 5.5);
-    painter->drawLine(QPointF(6.5, 10.5), QPointF(17.5, 10.5));
-    painter->drawLine(QPointF(12, 3), QPointF(12, 10));
+    painter->drawRoundedRect(QRectF(6, 3, 12, 18), 6, 6);
+    painter->drawLine(QPointF(12, 7), QPointF(12, 10));
 }
 
 void drawStorage(QPainter* painter)
 {
-    painter->drawRoundedRect(QRectF(6.5, 8.5, 11, 13), 2, 2);
-    painter->drawRect(QRectF(8.5, 2.5, 7, 6));
-    painter->fillRect(QRect(10, 5, 1, 1), painter->pen().color());
-    painter->fillRect(QRect(13, 5, 1, 1), painter->pen().color());
+    painter->drawRoundedRect(QRectF(6, 9, 12, 12), 2, 2);
+    painter->drawPolyline(QPolygonF()
+                          << QPointF(8, 9) << QPointF(8, 3) << QPointF(16, 3) << QPointF(16, 9));
 }
 
 } // namespace
@@ -57,7 +53,8 @@ void DeviceSign::paintEvent(QPaintEvent* event)
     CWidget::paintEvent(event);
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(m_attached ? bright : dim, 1.5));
+    painter.setPen(
+        QPen(m_attached ? bright : dim, strokeWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     switch (m_type) {
     case CWidgetStyle::DeviceKeyboard:
         drawKeyboard(&painter);

@@ -11,8 +11,9 @@
 namespace
 {
 
-const int left = 20;
+const int left = layout::margin;
 const int rowPitch = 40;
+const int linePitch = 32;
 const int lineCount = 8;
 const int refreshInterval = 500; // ms
 
@@ -29,9 +30,9 @@ const struct {
 
 DevicesScreen::DevicesScreen(Panel* panel) : Screen(QLatin1String("Devices"), panel), m_watcher(0)
 {
-    addHeading(QLatin1String("Attached devices"), 12);
-    addRegistry(48);
-    addHeading(QLatin1String("Last notifications of the kernel"), 190);
+    addHeading(QLatin1String("Attached devices"), layout::firstHeading);
+    addRegistry(52);
+    addHeading(QLatin1String("Last notifications of the kernel"), 188);
     addNotifications(224);
     QTimer* timer = new QTimer(this);
     connect(timer, SIGNAL(timeout()), this, SLOT(refresh()));
@@ -82,9 +83,9 @@ void DevicesScreen::addRegistry(int y)
     for (size_t i = 0; i < sizeof devices / sizeof devices[0]; ++i, y += rowPitch) {
         CWidget* lamp = new CWidget(this);
         lamp->setSize(19, 19);
-        lamp->move(left, y + 5);
+        lamp->move(left, y + 4);
         m_lamps.append(lamp);
-        plainLabel(QLatin1String(devices[i].name), this)->setGeometry(left + 34, y, 160, 28);
+        plainLabel(QLatin1String(devices[i].name), this)->setGeometry(left + 32, y, 160, 28);
         CLabel* state = plainLabel(QString(), this);
         state->setGeometry(left + 200, y, 200, 28);
         m_states.append(state);
@@ -95,10 +96,9 @@ void DevicesScreen::addNotifications(int y)
 {
     for (int i = 0; i < lineCount; ++i) {
         CLabel* line = new CLabel(this);
-        line->setSize(width() - 2 * left, 28);
-        line->setBackgroundColor(i % 2 ? QColor(Qt::white)
-                                       : CWidgetStyle::getColor(CWidgetStyle::ControlGroundColor));
-        line->move(left, y + i * 30);
+        line->setSize(contentWidth(), linePitch);
+        line->setBackgroundColor(i % 2 ? QColor(0xF4, 0xF5, 0xF9) : QColor(Qt::white));
+        line->move(left, y + i * linePitch);
         m_lines.append(line);
     }
     m_lines.first()->setText(QLatin1String("none yet"));

@@ -7,11 +7,14 @@
 namespace
 {
 
-const int left = 20;
-const int columns[] = {20, 150, 360, 530};
-const int fieldWidth = 190;
-const int rangedWidth = 150;
-const int rowPitch = 44;
+// An open keypad covers the columns but the last, whose ranges can be read while it is open.
+const int columns[] = {layout::margin, 140, 356, 552};
+const int fieldWidth = 192;
+const int rangedWidth = 176;
+const int rangeWidth = 104;
+const int rowPitch = 40;
+const int rowHeight = 28;
+const QColor dimColor(0x5A, 0x5E, 0x70);
 
 // One row per keypad: a value for the field without a range, one for the field with it, and the
 // range. A general keypad has no range.
@@ -38,14 +41,15 @@ const struct Row {
 EntryScreen::EntryScreen(Panel* panel) : Screen(QLatin1String("Text entry"), panel)
 {
     connect(this, SIGNAL(hint(QString)), panel, SLOT(setHint(QString)));
-    addHeading(QLatin1String("A keypad for each kind of value"), 12);
-    addCaption(QLatin1String("Keypad"), columns[0], 44);
-    addCaption(QLatin1String("Without a range"), columns[1], 44);
-    addCaption(QLatin1String("With a range"), columns[2], 44);
-    addCaption(QLatin1String("Range"), columns[3], 44);
-    addKeypadRows(76);
-    addHeading(QLatin1String("Other fields"), 310);
-    addOtherFields(346);
+    addHeading(QLatin1String("A keypad for each kind of value"), layout::firstHeading);
+    addColumnCaption(QLatin1String("Keypad"), 0);
+    addColumnCaption(QLatin1String("Without a range"), 1);
+    addColumnCaption(QLatin1String("With a range"), 2);
+    addColumnCaption(QLatin1String("Range"), 3);
+    addKeypadRows(92);
+    addHeading(QLatin1String("Other fields"), 300);
+    addOtherFields(332);
+    connect(addMainButton(QLatin1String("Save")), SIGNAL(clicked()), this, SLOT(saved()));
 }
 
 CLineEdit* EntryScreen::field(CKeyPadFactory::KeyPadType type) const
@@ -64,11 +68,15 @@ CLineEdit* EntryScreen::addField(const QString& title, const QString& text, int 
     return field;
 }
 
-void EntryScreen::addCaption(const QString& text, int x, int y)
+void EntryScreen::addColumnCaption(const QString& text, int column)
 {
-    CLabel* caption = plainLabel(text, this);
-    caption->setTextColor(CWidgetStyle::getColor(CWidgetStyle::Color3));
-    caption->setGeometry(x - 2, y, 150, 28);
+    addCaption(text, QRect(columns[column], 64, rangeWidth, rowHeight));
+}
+
+void EntryScreen::addName(const QString& name, int y)
+{
+    addCaption(name, QRect(columns[0], y, columns[1] - columns[0], rowHeight))
+        ->setTextColor(Qt::black);
 }
 
 void EntryScreen::addKeypadRows(int y)
@@ -76,7 +84,7 @@ void EntryScreen::addKeypadRows(int y)
     for (size_t i = 0; i < sizeof rows / sizeof rows[0]; ++i, y += rowPitch) {
         const Row& row = rows[i];
         const QString name = QLatin1String(row.name);
-        plainLabel(name, this)->setGeometry(left - 2, y, columns[1] - left, 28);
+        addName(name, y);
         CLineEdit* field = addField(name, QLatin1String(row.text), 1, y);
         field->setObjectName(QLatin1String("entry-") + name);
         field->setSKPType(row.type);
@@ -89,24 +97,32 @@ void EntryScreen::addKeypadRows(int y)
         ranged->setSKPType(row.type);
         ranged->setRange(row.minimum, row.maximum);
         ranged->setFixedWidth(rangedWidth);
-        addCaption(QLatin1String(row.range), columns[3], y);
+        addCaption(QLatin1String(row.range), QRect(columns[3], y, rangeWidth, rowHeight));
     }
 }
 
 void EntryScreen::addOtherFields(int y)
 {
-    plainLabel(QLatin1String("Read-only"), this)->setGeometry(left - 2, y, 130, 28);
+    addName(QLatin1String("Read-only"), y);
     addField(QLatin1String("Read-only"), QLatin1String("SN 10447-3"), 1, y)->setReadOnly(true);
 
-    plainLabel(QLatin1String("Disabled"), this)->setGeometry(left - 2, y + rowPitch, 130, 28);
-    addField(QLatin1String("Disabled"), QLatin1String("Not licensed"), 1, y + rowPitch)
-        ->setEnabled(false);
+    addName(QLatin1String("Disabled"), y + rowPitch);
+    CLineEdit* disabled =
+        addField(QLatin1String("Disabled"), QLatin1String("Not licensed"), 1, y + rowPitch);
+    QPalette dim = disabled->palette();
+    dim.setColor(QPalette::Disabled, QPalette::Text, dimColor);
+    disabled->setPalette(dim);
+    disabled->setEnabled(false);
 
-    plainLabel(QLatin1String("Keyboard only"), this)
-        ->setGeometry(left - 2, y + 2 * rowPitch, 130, 28);
+    addName(QLatin1String("Keyboard only"), y + 2 * rowPitch);
     addField(QLatin1String("Keyboard only"), QLatin1String("No keypad opens here"), 1,
              y + 2 * rowPitch)
         ->setSKPActive(false);
+}
+
+void EntryScreen::saved()
+{
+    Q_EMIT hint(QLatin1String("Saved"));
 }
 
 void EntryScreen::edited(const QString& text)

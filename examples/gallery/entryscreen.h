@@ -24,10 +24,12 @@ Q_SIGNALS:
 
 private Q_SLOTS:
     void edited(const QString& text);
+    void saved();
 
 private:
     CLineEdit* addField(const QString& title, const QString& text, int column, int y);
-    void addCaption(const QString& text, int x, int y);
+    void addColumnCaption(const QString& text, int column);
+    void addName(const QString& name, int y);
     void addKeypadRows(int y);
     void addOtherFields(int y);
 

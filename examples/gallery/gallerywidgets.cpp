@@ -1,13 +1,36 @@
 #include "gallerywidgets.h"
 
 #include <CWidgetStyle>
+#include <QPainter>
 
 namespace
 {
 
-const int headingHeight = 28;
 const int headingPixelSize = 17;
-const int margin = 20;
+const int textMargin = 2; // of a label, left of its text
+const qreal plateRadius = 6;
+const QColor plateColor(0xD2, 0xD4, 0xDB);
+const QColor dimColor(0x52, 0x56, 0x68);
+
+QPixmap plate(const QSize& size)
+{
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(plateColor);
+    painter.drawRoundedRect(QRectF(pixmap.rect()), plateRadius, plateRadius);
+    return pixmap;
+}
+
+QPixmap tinted(QPixmap pixmap, const QColor& color)
+{
+    QPainter painter(&pixmap);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(pixmap.rect(), color);
+    return pixmap;
+}
 
 } // namespace
 
@@ -33,7 +56,7 @@ void Heading::updateWidgetStyle()
 Screen::Screen(const QString& title, QWidget* parent) : CWidget(parent), m_title(title)
 {
     setSize(CWidgetStyle::getSize(CWidgetStyle::BesideColumnSize));
-    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::Color27));
+    setBackgroundColor(screenColor());
     hide();
     setAutoManagment(true);
 }
@@ -47,24 +70,54 @@ void Screen::prepareShot()
 {
 }
 
-Heading* Screen::addHeading(const QString& text, int y)
+int Screen::contentWidth() const
+{
+    return width() - 2 * layout::margin;
+}
+
+Heading* Screen::addHeading(const QString& text, int y, int x)
 {
     Heading* heading = new Heading(text, this);
-    heading->setGeometry(margin - 2, y, width() - 2 * margin, headingHeight);
+    heading->setGeometry(x - textMargin, y, width() - layout::margin - x + textMargin,
+                         layout::headingHeight);
     return heading;
 }
 
+/// The text begins at the left edge of \a place.
+CLabel* Screen::addCaption(const QString& text, const QRect& place)
+{
+    CLabel* caption = plainLabel(text, this);
+    caption->setTextColor(captionColor());
+    caption->setGeometry(place.adjusted(-textMargin, 0, 0, 0));
+    return caption;
+}
+
 CPushButton* Screen::addButton(const QString& text, CPushButton::ButtonStyle style,
-                               const QRect& place)
+                               const QPoint& corner)
 {
     CPushButton* button = new CPushButton(this);
     button->setStyle(style, true);
     button->setBackgroundColor(QColor()); // the corners of the picture let the screen through
     button->setAutoFillBackground(false);
     button->setText(text);
-    button->setFixedSize(place.size());
-    button->move(place.topLeft());
+    button->move(corner);
     return button;
+}
+
+CPushButton* Screen::addMainButton(const QString& text)
+{
+    const int x = width() - layout::margin - layout::buttonWidth;
+    return addButton(text, CPushButton::GreenStyle, QPoint(x, layout::lastButton));
+}
+
+QColor screenColor()
+{
+    return CWidgetStyle::getColor(CWidgetStyle::Color27);
+}
+
+QColor captionColor()
+{
+    return QColor(0x5A, 0x5E, 0x70);
 }
 
 CLabel* plainLabel(const QString& text, QWidget* parent)
@@ -73,4 +126,16 @@ CLabel* plainLabel(const QString& text, QWidget* parent)
     label->setBackgroundColor(QColor());
     label->setText(text);
     return label;
+}
+
+void disableButton(CPushButton* button)
+{
+    button->setEnabled(false);
+    button->setBackground(plate(button->size()));
+    button->setTextColor(dimColor);
+    QIcon icon = button->icon();
+    if (icon.isNull())
+        return;
+    icon.addPixmap(tinted(icon.pixmap(button->iconSize()), dimColor), QIcon::Disabled);
+    button->setIcon(icon);
 }

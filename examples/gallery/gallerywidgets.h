@@ -4,6 +4,20 @@
 #include <CLabel>
 #include <CPushButton>
 
+/// Measures that all screens share, in pixels. Everything stands on a grid of 4.
+namespace layout
+{
+
+const int margin = 24; // left and right of what a screen shows
+const int firstHeading = 16;
+const int headingHeight = 28;
+const int buttonWidth = 120; // buttons have the size of their pictures
+const int buttonHeight = 40;
+const int buttonPitch = 128;
+const int lastButton = 456; // a screen's main button stands at its bottom right
+
+} // namespace layout
+
 /// The title of a group of widgets on a screen: larger than a label, of the style's family.
 class Heading : public CLabel
 {
@@ -29,14 +43,30 @@ public:
     virtual void prepareShot();
 
 protected:
-    Heading* addHeading(const QString& text, int y);
-    CPushButton* addButton(const QString& text, CPushButton::ButtonStyle style, const QRect& place);
+    int contentWidth() const;
+    Heading* addHeading(const QString& text, int y, int x = layout::margin);
+    CLabel* addCaption(const QString& text, const QRect& place);
+    CPushButton* addButton(const QString& text, CPushButton::ButtonStyle style,
+                           const QPoint& corner);
+
+    /// The one green button of a screen, at its bottom right.
+    CPushButton* addMainButton(const QString& text);
 
 private:
     QString m_title;
 };
 
-/// A label without a ground of its own.
+/// The background of all screens and pages.
+QColor screenColor();
+
+/// For texts that explain others.
+QColor captionColor();
+
+/// A label without a background of its own.
 CLabel* plainLabel(const QString& text, QWidget* parent);
+
+/// Disables a button and lets it recede: a flat plate, a dim text, a dim icon. The library has no
+/// picture for that; an application draws the plate.
+void disableButton(CPushButton* button);
 
 #endif

@@ -7,8 +7,14 @@
 namespace
 {
 
-const int left = 20;
-const int comboWidth = 260;
+// An open list covers the middle of the screen: no word may stand half below it.
+const int comboWidth = 332;
+const int rightColumn = 404;
+const int rightWidth = 252;
+const int comboHeight = 28;
+const int bitsLeft = layout::margin - 4; // the box stands 5 pixels inside
+const int bitPitch = 128;
+const int bitHeight = 44;
 const int recipeCount = 60;
 
 const char* const units[] = {"bar", "mbar", "psi", "kPa", "mmHg", "atm", "Torr", "inHg"};
@@ -49,15 +55,15 @@ ListsScreen::ListsScreen(Panel* panel)
       m_masked(0),
       m_maskText(0),
       m_languages(0),
-      m_allLanguages(true)
+      m_more(0),
+      m_allLanguages(false)
 {
     connect(this, SIGNAL(hint(QString)), panel, SLOT(setHint(QString)));
-    addHeading(QLatin1String("A long list, a page at a time"), 12);
-    addLongList(46);
-    addHeading(QLatin1String("Entries restricted by a mask"), 100);
-    addMask(134);
-    addHeading(QLatin1String("Entries restricted by texts"), 320);
-    addTexts(354);
+    addHeading(QLatin1String("A long list, a page at a time"), layout::firstHeading);
+    addLongList(52);
+    addHeading(QLatin1String("Entries restricted by a mask"), 104);
+    addMask(144);
+    addTexts(layout::firstHeading);
 }
 
 CComboBox* ListsScreen::longList() const
@@ -65,37 +71,38 @@ CComboBox* ListsScreen::longList() const
     return m_longList;
 }
 
-CComboBox* ListsScreen::addCombo(const QString& title, const QStringList& items, int y)
+CComboBox* ListsScreen::addCombo(const QString& title, const QStringList& items, const QRect& place)
 {
     CComboBox* combo = new CComboBox(this);
     combo->setTitle(title);
     combo->addItems(items);
-    combo->setFixedWidth(comboWidth);
-    combo->move(left, y);
+    combo->setFixedWidth(place.width());
+    combo->move(place.topLeft());
     connect(combo, SIGNAL(currentValueChanged(QString)), this, SLOT(chosen(QString)));
     return combo;
 }
 
 void ListsScreen::addLongList(int y)
 {
-    m_longList = addCombo(QLatin1String("Recipe"), recipes(), y);
+    m_longList = addCombo(QLatin1String("Recipe"), recipes(),
+                          QRect(layout::margin, y, comboWidth, comboHeight));
     m_longList->setObjectName(QLatin1String("recipes"));
     m_longList->setCurrentIndex(12);
 }
 
 void ListsScreen::addMask(int y)
 {
-    m_masked = addCombo(QLatin1String("Unit"), textsOf(units, unitCount), y);
+    m_masked = addCombo(QLatin1String("Unit"), textsOf(units, unitCount),
+                        QRect(layout::margin, y, comboWidth, comboHeight));
     m_masked->setObjectName(QLatin1String("units"));
-    m_maskText = plainLabel(QString(), this);
-    m_maskText->setGeometry(left + comboWidth + 20, y, 340, 28);
+    m_maskText = addCaption(QString(), QRect(rightColumn, y, rightWidth, comboHeight));
     for (int bit = 0; bit < unitCount; ++bit) {
         CCheckBox* box = new CCheckBox(QLatin1String(units[bit]), this);
         box->setBorderVisible(false);
-        box->setForegroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
+        box->setForegroundColor(Qt::black);
         box->setChecked(bit % 2 == 0 || bit == 3);
         box->setFixedWidth(120);
-        box->move(left + bit % 4 * 150, y + 48 + bit / 4 * 44);
+        box->move(bitsLeft + bit % 2 * bitPitch, y + 48 + bit / 2 * bitHeight);
         connect(box, SIGNAL(stateChanged(int)), this, SLOT(maskChanged()));
         m_bits.append(box);
     }
@@ -104,10 +111,13 @@ void ListsScreen::addMask(int y)
 
 void ListsScreen::addTexts(int y)
 {
-    m_languages = addCombo(QLatin1String("Language"), textsOf(languages, languageCount), y);
-    CPushButton* button = addButton(QLatin1String("All or three"), CPushButton::DefaultStyle,
-                                    QRect(left + comboWidth + 20, y - 6, 140, 40));
-    connect(button, SIGNAL(clicked()), this, SLOT(nextLanguages()));
+    addHeading(QLatin1String("Entries restricted by texts"), y, rightColumn);
+    m_languages = addCombo(QLatin1String("Language"), textsOf(languages, languageCount),
+                           QRect(rightColumn, y + 36, rightWidth, comboHeight));
+    m_more = addButton(QString(), CPushButton::DefaultStyle,
+                       QPoint(rightColumn + rightWidth - layout::buttonWidth, y + 76));
+    connect(m_more, SIGNAL(clicked()), this, SLOT(nextLanguages()));
+    nextLanguages();
 }
 
 void ListsScreen::chosen(const QString& text)
@@ -130,4 +140,5 @@ void ListsScreen::nextLanguages()
     m_allLanguages = !m_allLanguages;
     m_languages->setVisibleItems(textsOf(languages, m_allLanguages ? languageCount : westernCount),
                                  0);
+    m_more->setText(QLatin1String(m_allLanguages ? "Show three" : "Show all"));
 }

@@ -29,7 +29,7 @@ private Q_SLOTS:
     void nextLanguages();
 
 private:
-    CComboBox* addCombo(const QString& title, const QStringList& items, int y);
+    CComboBox* addCombo(const QString& title, const QStringList& items, const QRect& place);
     void addLongList(int y);
     void addMask(int y);
     void addTexts(int y);
@@ -39,6 +39,7 @@ private:
     CLabel* m_maskText;
     QList<CCheckBox*> m_bits;
     CComboBox* m_languages;
+    CPushButton* m_more;
     bool m_allLanguages;
 };
 

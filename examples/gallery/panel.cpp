@@ -47,6 +47,7 @@ const struct Entry {
 
 const int entryCount = sizeof entries / sizeof entries[0];
 const int entryHeight = 50;
+const QColor barColor(0x2B, 0x2E, 0x3B);
 
 template <class Control>
 void restyleAll(QWidget* parent, const char* name)
@@ -69,7 +70,7 @@ Panel::Panel(const QString& styleFile)
     : CWidget(0), m_styleFile(styleFile), m_strip(0), m_back(0), m_hint(0), m_logging(false)
 {
     setSize(CWidgetStyle::getSize(CWidgetStyle::ScreenSize));
-    setBackgroundColor(QColor(0x2E, 0x31, 0x3D));
+    setBackgroundColor(barColor);
     setWindowTitle(QLatin1String("Quorlin front panel"));
     m_strip = new TitleStrip(this);
     addMenu();
@@ -188,18 +189,9 @@ void Panel::menuPressed()
 void Panel::addMenu()
 {
     const QSize column = CWidgetStyle::getSize(CWidgetStyle::LeftColumnSize);
-    const QPixmap normal = CWidgetStyle::getEntryStatus(CWidgetStyle::EntryFirst);
-    const QPixmap pressed = CWidgetStyle::getEntryStatus(CWidgetStyle::EntrySecond);
-    const QPixmap selected = CWidgetStyle::getEntryStatus(CWidgetStyle::EntryThird);
     for (int i = 0; i < entryCount; ++i) {
-        CPushButton* button = new CPushButton(this);
+        CPushButton* button = addEntry(QLatin1String(entries[i].label), this);
         button->setObjectName(QLatin1String("menu-") + QLatin1String(entries[i].name));
-        button->setText(QLatin1String(entries[i].label));
-        button->setTextColor(Qt::white);
-        button->setBackground(normal);
-        button->setExtraAttr(CPushButton::PressedPixmap, pressed);
-        button->setExtraAttr(CPushButton::ReleasedPixmap, normal);
-        button->setExtraAttr(CPushButton::SelectedPixmap, selected);
         button->setFixedSize(column.width(), entryHeight);
         button->move(0, m_strip->height() + i * entryHeight);
         connect(button, SIGNAL(clicked()), this, SLOT(menuPressed()), Qt::QueuedConnection);
@@ -207,38 +199,58 @@ void Panel::addMenu()
     }
 }
 
+/// A button with the looks of a menu entry.
+CPushButton* Panel::addEntry(const QString& text, QWidget* parent)
+{
+    const QPixmap normal = CWidgetStyle::getEntryStatus(CWidgetStyle::EntryFirst);
+    CPushButton* button = new CPushButton(parent);
+    button->setText(text);
+    button->setTextColor(Qt::white);
+    button->setBackground(normal);
+    button->setExtraAttr(CPushButton::PressedPixmap,
+                         CWidgetStyle::getEntryStatus(CWidgetStyle::EntrySecond));
+    button->setExtraAttr(CPushButton::ReleasedPixmap, normal);
+    button->setExtraAttr(CPushButton::SelectedPixmap,
+                         CWidgetStyle::getEntryStatus(CWidgetStyle::EntryThird));
+    return button;
+}
+
+/// The title's picture upside down: its line belongs above the bar.
 void Panel::addBottomBar()
 {
     const QSize size = CWidgetStyle::getSize(CWidgetStyle::BottomBarSize);
     CWidget* bar = new CWidget(this);
     bar->setSize(size);
-    bar->setBackground(QPixmap(QLatin1String(":/images/UTIL_TB_BKGROUND.png")));
+    bar->setBackground(QPixmap(QLatin1String(":/images/UTIL_TB_BKGROUND.png"))
+                           .transformed(QTransform().scale(1, -1)));
     bar->move(0, height() - size.height());
 
-    m_back = new CPushButton(bar);
+    const int column = CWidgetStyle::getSize(CWidgetStyle::LeftColumnSize).width();
+    m_back = addEntry(QLatin1String("Back"), bar);
     m_back->setObjectName(QLatin1String("back"));
-    m_back->setStyle(CPushButton::DefaultStyle, true);
-    m_back->setBackgroundColor(QColor());
-    m_back->setAutoFillBackground(false);
     m_back->setIcon(QIcon(QLatin1String(":/images/back.png")));
-    m_back->setIconSize(QSize(20, 20));
-    m_back->setText(QLatin1String("Back"));
-    m_back->setFixedSize(104, 32);
-    m_back->move(8, 6);
+    m_back->setIconSize(QSize(30, 30));
+    m_back->setFixedSize(column, size.height() - 1);
+    m_back->move(0, 1);
     connect(m_back, SIGNAL(clicked()), this, SLOT(back()));
 
     m_hint = plainLabel(QString(), bar);
     m_hint->setTextColor(Qt::white);
-    m_hint->setGeometry(132, 8, 520, 28);
+    m_hint->setGeometry(column + layout::margin - 2, 8, 520, 28);
+    addState(bar);
+}
 
+void Panel::addState(QWidget* bar)
+{
     CWidget* lamp = new CWidget(bar);
     lamp->setSize(16, 16);
     lamp->setBackground(
         CWidgetStyle::getLEDStatus(CWidgetStyle::LedState1, CWidgetStyle::SmallIcon));
-    lamp->move(712, 14);
+    lamp->move(708, 14);
     CLabel* state = plainLabel(QLatin1String("Ready"), bar);
     state->setTextColor(Qt::white);
-    state->setGeometry(732, 8, 60, 28);
+    state->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    state->setGeometry(728, 8, width() - layout::margin - 728 + 2, 28);
 }
 
 void Panel::updateBars()

@@ -37,7 +37,9 @@ private Q_SLOTS:
 
 private:
     void addMenu();
+    CPushButton* addEntry(const QString& text, QWidget* parent);
     void addBottomBar();
+    void addState(QWidget* bar);
     void updateBars();
 
     QString m_styleFile;

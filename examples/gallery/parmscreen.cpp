@@ -2,14 +2,15 @@
 
 #include "panel.h"
 
-#include <CWidgetStyle>
+#include <CCheckBox>
 #include <QVBoxLayout>
 
 namespace
 {
 
-const int left = 20;
-const int fieldWidth = 600;
+const int pagesHeight = 432; // with the page bar; the main button stands below
+const int firstRow = 52;
+const int rowGap = 26; // between rows of 30 pixels, so that no finger takes two
 const int servicePage = 4;
 
 const char* const modes[] = {"DHCP", "Static address", "Off"};
@@ -32,8 +33,9 @@ ParmScreen::ParmScreen(Panel* panel) : Screen(QLatin1String("Parameters"), panel
     connect(this, SIGNAL(hint(QString)), panel, SLOT(setHint(QString)));
     m_pages = new CPageWidget(this);
     m_pages->setObjectName(QLatin1String("pages"));
-    m_pages->setSize(640, 480);
-    m_pages->move(left, 16);
+    m_pages->setSize(contentWidth(), pagesHeight);
+    m_pages->move(layout::margin, layout::firstHeading);
+    m_pages->setBackgroundColor(screenColor());
     addNetworkPage();
     addTimePage();
     addMeasurementPage();
@@ -41,16 +43,17 @@ ParmScreen::ParmScreen(Panel* panel) : Screen(QLatin1String("Parameters"), panel
     addServicePage();
     m_pages->hidePage(servicePage);
     m_pages->setCurrentPage(0);
+    connect(addMainButton(QLatin1String("Save")), SIGNAL(clicked()), this, SLOT(saved()));
 }
 
 QVBoxLayout* ParmScreen::addPage(const QString& title)
 {
     CWidget* page = new CWidget;
-    page->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::ContainerGroundColor));
+    page->setBackgroundColor(screenColor());
     QVBoxLayout* column = new QVBoxLayout(page);
-    column->setContentsMargins(left, 12, left, 12);
-    column->setSpacing(12);
-    column->addWidget(new Heading(title, page));
+    column->setContentsMargins(0, firstRow, 0, 0);
+    column->setSpacing(rowGap);
+    (new Heading(title, page))->setGeometry(-2, 0, contentWidth(), layout::headingHeight);
     column->addStretch();
     m_pages->addPage(page);
     return column;
@@ -59,7 +62,8 @@ QVBoxLayout* ParmScreen::addPage(const QString& title)
 void ParmScreen::addLabel(QVBoxLayout* page, const char* name, const char* value)
 {
     CParmLabel* field = new CParmLabel(QLatin1String(name), QLatin1String(value), 0);
-    field->setWidth(fieldWidth, Proportion1To1);
+    field->setTextColor(Qt::black, FieldValue);
+    field->setWidth(contentWidth(), Proportion1To1);
     page->insertWidget(page->count() - 1, field);
 }
 
@@ -69,7 +73,7 @@ CParmLineEdit* ParmScreen::addEdit(QVBoxLayout* page, const char* name, const ch
     CParmLineEdit* field = new CParmLineEdit(QLatin1String(name), QLatin1String(value), 0);
     field->setObjectName(QLatin1String(name));
     field->setSKPType(type);
-    field->setWidth(fieldWidth, Proportion1To1);
+    field->setWidth(contentWidth(), Proportion1To1);
     connect(field, SIGNAL(textEdited(QString)), this, SLOT(textEntered(QString)));
     page->insertWidget(page->count() - 1, field);
     return field;
@@ -83,7 +87,7 @@ CParmComboBox* ParmScreen::addChoice(QVBoxLayout* page, const char* name, const 
         list.append(QLatin1String(items[i]));
     CParmComboBox* field = new CParmComboBox(QLatin1String(name), list, QLatin1String(current), 0);
     field->setObjectName(QLatin1String(name));
-    field->setWidth(fieldWidth);
+    field->setWidth(contentWidth());
     connect(field, SIGNAL(activated(int)), this, SLOT(choiceMade(int)));
     page->insertWidget(page->count() - 1, field);
     return field;
@@ -93,7 +97,11 @@ CParmCheckBox* ParmScreen::addSwitch(QVBoxLayout* page, const char* name, const 
 {
     CParmCheckBox* field = new CParmCheckBox(QLatin1String(name), QLatin1String(text), 0);
     field->setObjectName(QLatin1String(name));
-    field->setWidth(fieldWidth);
+    field->setWidth(contentWidth());
+    field->findChild<CLabel*>()->setFixedWidth(contentWidth() / 2); // as in the other rows
+    field->setBorderVisible(false);
+    // Like all check boxes it is white at first, which is for dark backgrounds.
+    field->findChild<CCheckBox*>()->setForegroundColor(Qt::black);
     page->insertWidget(page->count() - 1, field);
     return field;
 }
@@ -153,6 +161,11 @@ void ParmScreen::textEntered(const QString& text)
 void ParmScreen::choiceMade(int index)
 {
     Q_EMIT hint(QString::fromLatin1("%1: entry %2").arg(sender()->objectName()).arg(index));
+}
+
+void ParmScreen::saved()
+{
+    Q_EMIT hint(QLatin1String("Saved"));
 }
 
 void ParmScreen::serviceChanged(int state)

@@ -26,6 +26,7 @@ Q_SIGNALS:
 private Q_SLOTS:
     void textEntered(const QString& text);
     void choiceMade(int index);
+    void saved();
     void serviceChanged(int state);
 
 private:

@@ -11,17 +11,35 @@ namespace
 
 const char folder[] = ":/images/";
 
-const int left = 20;
+const int left = layout::margin;
 const int columns = 4;
 const int rows = 4;
-const QSize cellSize(154, 100);
-const QSize pitch(162, 107);
+const QSize cellSize(152, 100);
+const QSize pitch(160, 108);
 const int captionHeight = 34;
+const int mostGray = 136; // of a picture for light backgrounds, of 255
+const QColor lightColor(0xE7, 0xE9, 0xEB);
+const QColor darkColor(0x2B, 0x2E, 0x3B);
 const int cellMargin = 6;
 
 QPixmap pictureOf(const QString& name)
 {
     return QPixmap(QLatin1String(folder) + name);
+}
+
+/// Whether a picture is a light sign, which wants a dark background.
+bool isLight(const QPixmap& picture)
+{
+    const QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
+    qint64 lightness = 0;
+    qint64 weight = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            lightness += qint64(qGray(image.pixel(x, y))) * qAlpha(image.pixel(x, y));
+            weight += qAlpha(image.pixel(x, y));
+        }
+    }
+    return lightness > mostGray * weight;
 }
 
 QString sizeText(const QPixmap& picture)
@@ -41,7 +59,7 @@ QFont captionFont(const QFont& base, bool bold)
 
 // ---- PictureCell
 
-PictureCell::PictureCell(QWidget* parent) : CWidget(parent)
+PictureCell::PictureCell(QWidget* parent) : CWidget(parent), m_onDark(false)
 {
     setSize(cellSize);
     setBackgroundColor(Qt::white);
@@ -65,6 +83,7 @@ void PictureCell::setName(const QString& name)
 {
     m_name = name;
     m_picture = name.isEmpty() ? QPixmap() : pictureOf(name);
+    m_onDark = isLight(m_picture);
     setVisible(!name.isEmpty());
     update();
 }
@@ -83,9 +102,9 @@ void PictureCell::paintEvent(QPaintEvent* event)
 {
     CWidget::paintEvent(event);
     QPainter painter(this);
-    const QRect ground(1, 1, width() - 2, height() - captionHeight - 1);
-    painter.fillRect(ground, CWidgetStyle::getColor(CWidgetStyle::Color5));
-    const QRect room = ground.adjusted(cellMargin, cellMargin, -cellMargin, -cellMargin);
+    const QRect swatch(1, 1, width() - 2, height() - captionHeight - 1);
+    painter.fillRect(swatch, m_onDark ? darkColor : lightColor);
+    const QRect room = swatch.adjusted(cellMargin, cellMargin, -cellMargin, -cellMargin);
     QSize size = m_picture.size();
     if (size.width() > room.width() || size.height() > room.height())
         size.scale(room.size(), Qt::KeepAspectRatio);
@@ -94,13 +113,13 @@ void PictureCell::paintEvent(QPaintEvent* event)
     painter.setRenderHint(QPainter::SmoothPixmapTransform, size != m_picture.size());
     painter.drawPixmap(place, m_picture);
 
-    const QRect caption(5, ground.bottom() + 2, width() - 10, captionHeight / 2);
-    painter.setPen(QColor(0x2E, 0x31, 0x3D));
+    const QRect caption(5, swatch.bottom() + 2, width() - 10, captionHeight / 2);
+    painter.setPen(darkColor);
     painter.setFont(captionFont(font(), true));
     painter.drawText(
         caption, Qt::AlignLeft | Qt::AlignVCenter,
         QFontMetrics(painter.font()).elidedText(m_name, Qt::ElideMiddle, caption.width()));
-    painter.setPen(CWidgetStyle::getColor(CWidgetStyle::Color3));
+    painter.setPen(captionColor());
     painter.setFont(captionFont(font(), false));
     painter.drawText(caption.translated(0, 15), Qt::AlignLeft | Qt::AlignVCenter,
                      sizeText(m_picture));
@@ -110,13 +129,13 @@ void PictureCell::paintEvent(QPaintEvent* event)
 
 PictureScreen::PictureScreen(Panel* panel) : Screen(QLatin1String("Picture"), panel)
 {
-    m_caption = addHeading(QString(), 12);
+    m_caption = addHeading(QString(), layout::firstHeading);
     m_light = new CWidget(this);
-    m_light->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::ContainerGroundColor));
-    m_light->setGeometry(left, 52, width() - 2 * left, 216);
+    m_light->setBackgroundColor(Qt::white);
+    m_light->setGeometry(left, 52, contentWidth(), 216);
     m_dark = new CWidget(this);
-    m_dark->setBackgroundColor(QColor(0x2E, 0x31, 0x3D));
-    m_dark->setGeometry(left, 280, width() - 2 * left, 216);
+    m_dark->setBackgroundColor(darkColor);
+    m_dark->setGeometry(left, 280, contentWidth(), 216);
 }
 
 void PictureScreen::setName(const QString& name)
@@ -138,11 +157,11 @@ PicturesScreen::PicturesScreen(Panel* panel)
     m_names = QDir(QLatin1String(folder)).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase);
     for (int i = 0; i < columns * rows; ++i) {
         PictureCell* cell = new PictureCell(this);
-        cell->move(left + i % columns * pitch.width(), 12 + i / columns * pitch.height());
+        cell->move(left + i % columns * pitch.width(), 16 + i / columns * pitch.height());
         connect(cell, SIGNAL(clicked()), this, SLOT(openPicture()));
         m_cells.append(cell);
     }
-    addPager(12 + rows * pitch.height() + 6);
+    addPager(layout::lastButton);
     showPage(0);
 }
 
@@ -160,19 +179,21 @@ void PicturesScreen::addPager(int y)
         int x;
     } buttons[] = {
         {"previous-pictures", SLOT(previousPage()), ":/images/back.png", left},
-        {"next-pictures", SLOT(nextPage()), ":/images/Forward.png", width() - left - 90},
+        {"next-pictures", SLOT(nextPage()), ":/images/Forward.png",
+         width() - left - layout::buttonWidth},
     };
     for (int i = 0; i < 2; ++i) {
         CPushButton* button =
-            addButton(QString(), CPushButton::DefaultStyle, QRect(buttons[i].x, y, 90, 40));
+            addButton(QString(), CPushButton::DefaultStyle, QPoint(buttons[i].x, y));
         button->setObjectName(QLatin1String(buttons[i].name));
         button->setIcon(QIcon(QLatin1String(buttons[i].icon)));
-        button->setIconSize(QSize(24, 24));
+        button->setIconSize(QSize(30, 30));
         connect(button, SIGNAL(clicked()), this, buttons[i].slot);
     }
     m_position = plainLabel(QString(), this);
     m_position->setAlignment(Qt::AlignCenter);
-    m_position->setGeometry(left + 60, y + 6, width() - 2 * left - 120, 28);
+    m_position->setGeometry(left + layout::buttonPitch, y + 4,
+                            contentWidth() - 2 * layout::buttonPitch, 32);
 }
 
 void PicturesScreen::showPage(int page)

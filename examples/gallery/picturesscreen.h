@@ -30,6 +30,7 @@ protected:
 private:
     QString m_name;
     QPixmap m_picture;
+    bool m_onDark;
 };
 
 /// A picture in its own size, opened above the catalogue.

@@ -8,7 +8,12 @@
 namespace
 {
 
-const int left = 20;
+const int left = layout::margin;
+const int barPitch = 332;
+const int barHeight = 64; // with the gap below it
+const int clockPitch = 216;
+const QSize clockPlate(200, 64);
+const QColor barColor(0x2B, 0x2E, 0x3B);
 const int stepInterval = 80; // ms
 
 const int levels[] = {12, 35, 55, 72, 100};
@@ -37,12 +42,12 @@ ProgressScreen::ProgressScreen(Panel* panel)
       m_value(40)
 {
     connect(m_timer, SIGNAL(timeout()), this, SLOT(step()));
-    addHeading(QLatin1String("Levels"), 12);
-    addLevels(46);
-    addHeading(QLatin1String("A run"), 236);
-    addRun(270);
-    addHeading(QLatin1String("Clocks"), 346);
-    addClocks(382);
+    addHeading(QLatin1String("Levels"), layout::firstHeading);
+    addLevels(52);
+    addHeading(QLatin1String("A run"), 252);
+    addRun(288);
+    addHeading(QLatin1String("Clocks"), 364);
+    addClocks(400);
 }
 
 void ProgressScreen::addLevels(int y)
@@ -50,14 +55,15 @@ void ProgressScreen::addLevels(int y)
     for (size_t i = 0; i < sizeof levels / sizeof levels[0]; ++i) {
         CProgressBar* bar = new CProgressBar(this);
         bar->setValue(levels[i]);
-        bar->move(left + static_cast<int>(i % 2) * 330, y + static_cast<int>(i / 2) * 62);
+        bar->move(left + static_cast<int>(i % 2) * barPitch,
+                  y + static_cast<int>(i / 2) * barHeight);
     }
     CProgressBar* plain = new CProgressBar(this);
     plain->setGradientEabled(false);
     plain->setProgressColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
     plain->setBorderColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
     plain->setValue(64);
-    plain->move(left + 330, y + 2 * 62);
+    plain->move(left + barPitch, y + 2 * barHeight);
 }
 
 void ProgressScreen::addRun(int y)
@@ -65,8 +71,8 @@ void ProgressScreen::addRun(int y)
     m_run = new CProgressBar(this);
     m_run->setValue(m_value);
     m_run->move(left, y);
-    m_button = addButton(QLatin1String("Start"), CPushButton::GreenStyle,
-                         QRect(left + 330, y + 5, 120, 40));
+    m_button =
+        addButton(QLatin1String("Start"), CPushButton::GreenStyle, QPoint(left + barPitch, y + 4));
     m_button->setObjectName(QLatin1String("run"));
     connect(m_button, SIGNAL(clicked()), this, SLOT(startOrStop()));
 }
@@ -74,19 +80,19 @@ void ProgressScreen::addRun(int y)
 void ProgressScreen::addClocks(int y)
 {
     for (size_t i = 0; i < sizeof clocks / sizeof clocks[0]; ++i) {
-        const int x = left + static_cast<int>(i) * 217;
-        CWidget* ground = new CWidget(this);
-        ground->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
-        ground->setSize(206, 64);
-        ground->move(x, y);
-        CClockProgress* clock = new CClockProgress(ground);
+        const int x = left + static_cast<int>(i) * clockPitch;
+        CWidget* plate = new CWidget(this);
+        plate->setBackgroundColor(barColor);
+        plate->setSize(clockPlate.width(), clockPlate.height());
+        plate->move(x, y);
+        CClockProgress* clock = new CClockProgress(plate);
         clock->setRange(0, clocks[i].maximum);
         clock->setValue(clocks[i].value);
         clock->setFormat(clocks[i].format);
         clock->move(20, 17);
         clock->start();
         m_clocks.append(clock);
-        CLabel* caption = plainLabel(QLatin1String(clocks[i].caption), ground);
+        CLabel* caption = plainLabel(QLatin1String(clocks[i].caption), plate);
         caption->setTextColor(Qt::white);
         caption->setGeometry(66, 18, 130, 28);
     }

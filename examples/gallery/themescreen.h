@@ -3,6 +3,8 @@
 
 #include "gallerywidgets.h"
 
+#include <QList>
+
 class Panel;
 
 /// Font families to choose from: a touch rewrites the style file, and the panel takes it over while
@@ -20,8 +22,10 @@ private Q_SLOTS:
 private:
     void addFamilies(int y);
     void addPalette(int y);
+    void showCurrent();
 
     Panel* m_panel;
+    QList<CPushButton*> m_families;
 };
 
 #endif

@@ -11,7 +11,8 @@ namespace
 {
 
 const int textLeft = 18;
-const int gap = 10;
+const int gap = 12;
+const int rightMargin = layout::margin;
 const int timeWidth = 58;
 const int tickInterval = 500;
 
@@ -41,7 +42,7 @@ TitleStrip::TitleStrip(QWidget* parent) : CTopTitleArea(parent)
     m_time = plainLabel(QString(), this);
     m_time->setTextColor(Qt::white);
     m_time->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    int right = width() - gap;
+    int right = width() - rightMargin + 2;
     right -= timeWidth;
     m_time->setGeometry(right, 8, timeWidth, 28);
     right -= gap;

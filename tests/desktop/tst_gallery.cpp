@@ -6,11 +6,11 @@ namespace
 {
 
 const QRect screenRect(120, 44, 680, 512);
-const QRect hintRect(132, 564, 520, 28);
-const QRect backRect(8, 562, 104, 32);
-const QRect greenRect(270, 88, 120, 40);
-const QPoint serifButton(460, 111);
-const QPoint firstPicture(217, 106);
+const QRect hintRect(142, 564, 520, 28);
+const QRect backRect(0, 557, 120, 43);
+const QRect greenRect(120 + 152, 44 + 52, 120, 40);
+const QPoint serifButton(120 + 152 + 60, 44 + 52 + 20);
+const QPoint firstPicture(120 + 24 + 76, 44 + 16 + 50);
 
 QString latin(const char* text)
 {
@@ -96,7 +96,7 @@ void tst_gallery::pressedButtonLooksPressed()
     QImage expected = window.grab();
     const QImage pressed =
         CWidgetStyle::getButtonStatus(CWidgetStyle::GreenPressed, true).toImage();
-    const QRect bare(8, 4, 20, 32);
+    const QRect bare(8, 6, 20, 28);
     for (int y = bare.top(); y <= bare.bottom(); ++y) {
         for (int x = bare.left(); x <= bare.right(); ++x)
             expected.setPixel(greenRect.topLeft() + QPoint(x, y), pressed.pixel(x, y));
@@ -122,7 +122,7 @@ void tst_gallery::pictureOpensAboveAndBackReturns()
     QVERIFY(opened.copy(screenRect) != pictures.copy(screenRect));
     // The picture stands unscaled on the light ground.
     const QImage picture(latin(":/images/ARROW-BLACK.png"));
-    QCOMPARE(opened.pixel(140 + 9, 96 + 13), QColor(Qt::black).rgb());
+    QCOMPARE(opened.pixel(144 + 9, 96 + 13), QColor(Qt::black).rgb());
     QVERIFY(!picture.isNull());
     window.click(backRect.center());
     QCOMPARE(window.waitFor(pictures, screenRect), QString());

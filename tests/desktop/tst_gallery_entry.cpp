@@ -13,10 +13,10 @@ namespace
 {
 
 const QPoint panelCenter(399, 299);
-const QRect fieldRect(120 + 150, 44 + 76, 190, 28);
-const QRect rangedRect(120 + 360, 44 + 76, 150, 28);
-const QRect keyboardOnlyRect(120 + 150, 44 + 346 + 88, 190, 28);
-const int rowPitch = 44;
+const QRect fieldRect(120 + 140, 44 + 92, 192, 28);
+const QRect rangedRect(120 + 356, 44 + 92, 176, 28);
+const QRect keyboardOnlyRect(120 + 140, 44 + 332 + 80, 192, 28);
+const int rowPitch = 40;
 
 QString latin(const char* text)
 {

@@ -9,9 +9,9 @@
 namespace
 {
 
-const QRect recipesRect(140, 90, 260, 28);
-const QRect unitsRect(140, 178, 260, 28);
-const QPoint secondBit(140 + 150 + 14, 44 + 134 + 48 + 14);
+const QRect recipesRect(120 + 24, 44 + 52, 332, 28);
+const QRect unitsRect(120 + 24, 44 + 144, 332, 28);
+const QPoint secondBit(120 + 148 + 14, 44 + 144 + 48 + 14);
 const QColor marked(67, 172, 232);
 
 QString latin(const char* text)

@@ -11,13 +11,13 @@
 namespace
 {
 
-const QRect pagesRect(140, 60, 640, 480);
-const QPoint nextPage(140 + 320 + 50 + 13, 60 + 450 + 15);
-const QPoint previousPage(140 + 320 - 50 - 13, 60 + 450 + 15);
-const int firstField = 60 + 12 + 28 + 12 + 15;
-const int fieldPitch = 42;
+const QRect pagesRect(144, 60, 632, 432);
+const QPoint nextPage(144 + 316 + 50 + 13, 60 + 402 + 15);
+const QPoint previousPage(144 + 316 - 50 - 13, 60 + 402 + 15);
+const int firstField = 60 + 52 + 15;
+const int fieldPitch = 56;
 const int valueX = 600;
-const int switchX = 140 + 20 + 300 + 13;
+const int switchX = 144 + 316 + 13;
 const QColor marked(67, 172, 232);
 
 QString latin(const char* text)
@@ -98,10 +98,10 @@ void tst_gallery_parameters::valuesAreKeptWhenPaging()
     QVERIFY(window.waitForColor(listmap::rowOfShortList(1), marked));
     window.click(listmap::rowOfShortList(0));
     QCOMPARE(window.nextLine(), latin("Mode: entry 0"));
-    window.moveTo(QPoint(700, 580));
+    window.moveTo(QPoint(600, 580));
     QTest::qWait(300);
     const QImage changed = window.grab();
-    const QRect fields(160, 100, 600, 260);
+    const QRect fields(144, 112, 632, 260);
     QVERIFY(changed.copy(fields) != shot.copy(fields));
     window.click(nextPage);
     for (int i = 0; i < 100 && window.grab().copy(fields) == changed.copy(fields); ++i)
@@ -119,7 +119,7 @@ void tst_gallery_parameters::checkBoxTurnsAPageOn()
     QCOMPARE(window.waitFor(GalleryWindow::shot(latin("parameters")), pagesRect), QString());
     window.click(previousPage); // back from the first page is the last one, the units
     QTest::qWait(300);
-    const QRect bar(400, 510, 120, 30);
+    const QRect bar(400, 462, 120, 30);
     const QImage before = window.grab();
     window.click(QPoint(switchX, firstField + 2 * fieldPitch));
     QCOMPARE(window.nextLine(), latin("Service page: on"));
