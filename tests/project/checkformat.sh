@@ -3,7 +3,7 @@
 set -euo pipefail
 clang_format=${1:?the clang-format to use}
 mapfile -t sources < <(find style widgets pages parm keypad hotplug examples designer tests \
-    benchmarks fuzz resources/artwork -name '*.h' -o -name '*.cpp' | sort)
+    benchmarks fuzz tools resources/artwork -name '*.h' -o -name '*.cpp' | sort)
 if [ ${#sources[@]} -lt 30 ]; then
     echo "only ${#sources[@]} sources found: this is not the project's root" >&2
     exit 1
