@@ -134,10 +134,11 @@ bool CLabel::isAutoStyleEnabled() const
     return m_autoStyleEnabled;
 }
 
-/// Sets whether setWidgetStyle() applies anything.
+/// Sets whether setWidgetStyle() applies anything, and repaints.
 void CLabel::setAutoStyleEnabled(bool enabled)
 {
     m_autoStyleEnabled = enabled;
+    update();
 }
 
 /// Takes the font of the FieldAll entry of \a style. Colours and other entries are ignored.

@@ -102,6 +102,7 @@ void tst_label::settersStoreAndRepaint()
     QVERIFY(testing::repaints(&label, [&] { label.setTextSize(12); }));
     QVERIFY(testing::repaints(&label, [&] { label.setAlignment(Qt::AlignCenter); }));
     QVERIFY(testing::repaints(&label, [&] { label.setWrapMode(CLabel::CharWrap); }));
+    QVERIFY(testing::repaints(&label, [&] { label.setAutoStyleEnabled(false); }));
     QCOMPARE(label.text(), QString::fromLatin1("Name"));
 }
 
