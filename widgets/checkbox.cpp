@@ -29,7 +29,6 @@ CCheckBox::CCheckBox(QWidget* parent)
       m_foregroundColor(Qt::white),
       m_checkState(Qt::Unchecked)
 {
-    setCheckable(false); // Qt's own state is never used
     setFixedSize(bareSize, bareSize);
 }
 
@@ -42,7 +41,6 @@ CCheckBox::CCheckBox(const QString& text, QWidget* parent)
       m_foregroundColor(Qt::white),
       m_checkState(Qt::Unchecked)
 {
-    setCheckable(false); // Qt's own state is never used
     setFixedHeight(captionedHeight);
     setFont(QFont(QLatin1String("Arial"), captionPointSize, QFont::Bold));
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CCheckBox"), 0));
@@ -130,10 +128,11 @@ bool CCheckBox::isAutoStyleEnabled() const
     return m_autoStyleEnabled;
 }
 
-/// Sets whether setWidgetStyle() applies anything.
+/// Sets whether setWidgetStyle() applies anything, and repaints.
 void CCheckBox::setAutoStyleEnabled(bool enabled)
 {
     m_autoStyleEnabled = enabled;
+    update();
 }
 
 /// Takes the font of the FieldAll entry of \a style. Colours and other entries are ignored.
@@ -150,15 +149,44 @@ void CCheckBox::mousePressEvent(QMouseEvent* event)
         setCheckState(isChecked() ? Qt::Unchecked : Qt::Checked);
 }
 
+/// The size of box, caption and frame, whether the frame is visible or not; a box without caption
+/// is as wide as high.
+QSize CCheckBox::sizeHint() const
+{
+    const int side = qBound(minimumHeight(), captionedHeight, maximumHeight());
+    if (text().isEmpty() && !m_borderVisible)
+        return QSize(side, side);
+    const int captionEnd = boxRect(side).right() + captionMargin + captionWidth();
+    const int borderEnd = captionWidth() + borderExtent + 1; // and the line itself
+    return QSize(qMax(captionEnd, borderEnd), side);
+}
+
+/// The caption is never cut in a layout.
+QSize CCheckBox::minimumSizeHint() const
+{
+    return sizeHint();
+}
+
+/// A touch anywhere counts.
+bool CCheckBox::hitButton(const QPoint& point) const
+{
+    return rect().contains(point);
+}
+
 /// The finger's change came with the touch; lifting it changes nothing more.
 void CCheckBox::nextCheckState()
+{
+}
+
+/// Qt's own state is not announced.
+void CCheckBox::checkStateSet()
 {
 }
 
 void CCheckBox::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    m_box = boxRect();
+    m_box = boxRect(height());
 }
 
 void CCheckBox::paintEvent(QPaintEvent* event)
@@ -173,11 +201,16 @@ void CCheckBox::paintEvent(QPaintEvent* event)
     drawBorder(&painter);
 }
 
-/// The box has half the height and stands as far from the left edge as from top and bottom.
-QRect CCheckBox::boxRect() const
+/// The box has half of \a height and stands as far from the left edge as from top and bottom.
+QRect CCheckBox::boxRect(int height) const
 {
-    const int side = height() / 2;
-    return QRect((height() - 1) / 2 - side / 2, (height() + 1) / 2 - side / 2, side, side);
+    const int side = height / 2;
+    return QRect((height - 1) / 2 - side / 2, (height + 1) / 2 - side / 2, side, side);
+}
+
+int CCheckBox::captionWidth() const
+{
+    return qtcompat::textWidth(QFontMetrics(font()), text());
 }
 
 /// The caption's space reaches past the right edge, where the widget cuts it.
@@ -188,8 +221,7 @@ QRect CCheckBox::captionRect() const
 
 QRect CCheckBox::borderRect() const
 {
-    const int captionWidth = qtcompat::textWidth(QFontMetrics(font()), text());
-    return QRect(0, 0, captionWidth + borderExtent, height() - 1);
+    return QRect(0, 0, captionWidth() + borderExtent, height() - 1);
 }
 
 void CCheckBox::drawBackground(QPainter* painter)

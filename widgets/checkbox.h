@@ -44,14 +44,20 @@ public:
     void setAutoStyleEnabled(bool enabled);
     void setWidgetStyle(WidgetStyle style);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    bool hitButton(const QPoint& point) const override;
     void nextCheckState() override;
+    void checkStateSet() override;
 
 private:
-    QRect boxRect() const;
+    QRect boxRect(int height) const;
+    int captionWidth() const;
     QRect captionRect() const;
     QRect borderRect() const;
     void drawBackground(QPainter* painter);

@@ -1,6 +1,8 @@
 #include "support/testing.h"
 #include "widgets/checkbox.h"
 
+#include <QHBoxLayout>
+
 namespace
 {
 
@@ -33,12 +35,18 @@ private Q_SLOTS:
     void touchTogglesAndAnnouncesOnce();
     void releaseDoesNothingMore();
     void aSecondQuickTouchTogglesBack();
-    void touchOutsideOfQtsHitAreaToggles();
+    void everyTouchOfTheWidgetIsAClick_data();
+    void everyTouchOfTheWidgetIsAClick();
+    void sizeHintCoversAllThatIsDrawn_data();
+    void sizeHintCoversAllThatIsDrawn();
+    void sizeHintFollowsTextAndFont();
+    void layoutShowsTheWholeCaption();
+    void isCheckableAsItsBase();
     void aDisabledBoxKeepsItsState();
     void setCheckedIsSilent();
     void setCheckStateAnnouncesChanges();
     void keysAndClicksOfQtLeaveTheState();
-    void qtsOwnFlagCannotBeSet();
+    void qtsOwnFlagIsNotUsed();
     void aSlotMayDeleteTheBox();
     void autoStyleGatesTheStyle();
     void onlyFieldAllCounts();
@@ -111,14 +119,108 @@ void tst_checkbox::aSecondQuickTouchTogglesBack()
     QVERIFY(!box.isChecked());
 }
 
-void tst_checkbox::touchOutsideOfQtsHitAreaToggles()
+void tst_checkbox::everyTouchOfTheWidgetIsAClick_data()
 {
+    QTest::addColumn<QPoint>("point");
+    QTest::newRow("box") << QPoint(12, 14);
+    QTest::newRow("top left corner") << QPoint(0, 0);
+    QTest::newRow("between box and caption") << QPoint(24, 14);
+    QTest::newRow("below the caption") << QPoint(50, 27);
+    QTest::newRow("right of the frame") << QPoint(290, 2);
+    QTest::newRow("bottom right corner") << QPoint(299, 27);
+}
+
+void tst_checkbox::everyTouchOfTheWidgetIsAClick()
+{
+    QFETCH(QPoint, point);
     CCheckBox box(QLatin1String("Fan"));
     box.resize(300, 28);
     QSignalSpy changes(&box, SIGNAL(stateChanged(int)));
-    QTest::mouseClick(&box, Qt::LeftButton, Qt::NoModifier, QPoint(290, 2));
-    QCOMPARE(changes.count(), 1);
+    QSignalSpy pressed(&box, SIGNAL(pressed()));
+    QSignalSpy released(&box, SIGNAL(released()));
+    QSignalSpy clicked(&box, SIGNAL(clicked(bool)));
+    QTest::mouseClick(&box, Qt::LeftButton, Qt::NoModifier, point);
     QVERIFY(box.isChecked());
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(pressed.count(), 1);
+    QCOMPARE(released.count(), 1);
+    QCOMPARE(clicked.count(), 1);
+}
+
+void tst_checkbox::sizeHintCoversAllThatIsDrawn_data()
+{
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<bool>("isFramed");
+    const char* const captions[] = {"", "i", "Enable automatic restart", "100 % & more"};
+    for (size_t i = 0; i < sizeof captions / sizeof captions[0]; ++i) {
+        for (int height = 20; height <= 60; height += 8) {
+            for (int isFramed = 0; isFramed < 2; ++isFramed)
+                QTest::newRow(
+                    qPrintable(QString::fromLatin1("'%1', %2 high, %3")
+                                   .arg(QLatin1String(captions[i]))
+                                   .arg(height)
+                                   .arg(QLatin1String(isFramed ? "framed" : "without frame"))))
+                    << QString::fromLatin1(captions[i]) << height << (isFramed != 0);
+        }
+    }
+}
+
+void tst_checkbox::sizeHintCoversAllThatIsDrawn()
+{
+    QFETCH(QString, caption);
+    QFETCH(int, height);
+    QFETCH(bool, isFramed);
+    CCheckBox box(caption);
+    box.setForegroundColor(Qt::darkGreen);
+    box.setBorderVisible(isFramed);
+    box.setFixedHeight(height);
+    const QSize hint = box.sizeHint();
+    QCOMPARE(hint.height(), height);
+    QCOMPARE(box.minimumSizeHint(), hint);
+    box.resize(hint.width() + 200, height);
+    const QImage image = testing::render(&box, Qt::white);
+    const QImage beyond = image.copy(hint.width(), 0, 200, height);
+    CWIDGET_COMPARE_IMAGES(beyond, testing::canvas(beyond.size(), Qt::white));
+    // Not more than that either: the last column is the end of the frame.
+    if (isFramed && !caption.isEmpty() && height <= 28)
+        QVERIFY(image.pixel(hint.width() - 1, height / 2) != QColor(Qt::white).rgb());
+}
+
+void tst_checkbox::sizeHintFollowsTextAndFont()
+{
+    CCheckBox box(QLatin1String("Heating"));
+    const int width = box.sizeHint().width();
+    box.setText(QLatin1String("Heating of the cabinet"));
+    const int longer = box.sizeHint().width();
+    QVERIFY(longer > width);
+    box.setFont(testing::testFont(20));
+    QVERIFY(box.sizeHint().width() > longer);
+    CCheckBox bare;
+    QCOMPARE(bare.sizeHint(), QSize(20, 20));
+    QCOMPARE(bare.minimumSizeHint(), QSize(20, 20));
+}
+
+void tst_checkbox::layoutShowsTheWholeCaption()
+{
+    QWidget window;
+    QHBoxLayout* row = new QHBoxLayout(&window);
+    CCheckBox* box = new CCheckBox(QLatin1String("Enable automatic restart"));
+    row->addWidget(box);
+    row->addStretch();
+    window.resize(600, 60);
+    window.show();
+    QVERIFY(testcompat::waitForWindow(&window));
+    const QFontMetrics metrics(box->font());
+    QCOMPARE(box->size(), QSize(testcompat::textWidth(metrics, box->text()) + 41, 28));
+}
+
+void tst_checkbox::isCheckableAsItsBase()
+{
+    CCheckBox bare;
+    CCheckBox captioned(QLatin1String("Heating"));
+    QVERIFY(bare.isCheckable());
+    QVERIFY(captioned.isCheckable());
 }
 
 void tst_checkbox::aDisabledBoxKeepsItsState()
@@ -178,20 +280,26 @@ void tst_checkbox::keysAndClicksOfQtLeaveTheState()
     QVERIFY(!qtsOwnFlag(box));
 }
 
-void tst_checkbox::qtsOwnFlagCannotBeSet()
+/// Who sets it by Qt's own means leaves the box as it is, and announces nothing of it.
+void tst_checkbox::qtsOwnFlagIsNotUsed()
 {
     CCheckBox bare;
     CCheckBox captioned(QLatin1String("Heating"));
     CCheckBox* boxes[] = {&bare, &captioned};
     for (size_t i = 0; i < sizeof boxes / sizeof boxes[0]; ++i) {
         QSignalSpy changes(boxes[i], SIGNAL(stateChanged(int)));
-        QSignalSpy toggles(boxes[i], SIGNAL(toggled(bool)));
-        boxes[i]->toggle();
-        QVERIFY(QMetaObject::invokeMethod(boxes[i], "setChecked", Q_ARG(bool, true)));
-        QVERIFY(!qtsOwnFlag(*boxes[i]));
+        boxes[i]->resize(120, 28);
+        const QImage before = testing::render(boxes[i]);
+        static_cast<QAbstractButton*>(boxes[i])->setChecked(true);
         QVERIFY(!boxes[i]->isChecked());
+        CWIDGET_COMPARE_IMAGES(testing::render(boxes[i]), before);
         QCOMPARE(changes.count(), 0);
-        QCOMPARE(toggles.count(), 0);
+        QTest::mouseClick(boxes[i], Qt::LeftButton, Qt::NoModifier, QPoint(9, 10));
+        QVERIFY(boxes[i]->isChecked());
+        QCOMPARE(changes.count(), 1);
+        boxes[i]->toggle();
+        QVERIFY(boxes[i]->isChecked());
+        QCOMPARE(changes.count(), 1);
     }
 }
 

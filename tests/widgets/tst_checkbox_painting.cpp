@@ -125,8 +125,10 @@ void callSetter(CCheckBox* box, int setter)
         return box->setBorderVisible(true);
     case 5:
         return box->setForegroundColor(Qt::red);
-    default:
+    case 6:
         return box->setBackgroundColor(Qt::blue);
+    default:
+        return box->setAutoStyleEnabled(true);
     }
 }
 
@@ -285,6 +287,7 @@ void tst_checkbox_painting::everySetterRepaints_data()
     QTest::newRow("setBorderVisible") << 4;
     QTest::newRow("setForegroundColor") << 5;
     QTest::newRow("setBackgroundColor") << 6;
+    QTest::newRow("setAutoStyleEnabled") << 7;
 }
 
 void tst_checkbox_painting::everySetterRepaints()
