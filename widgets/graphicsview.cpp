@@ -5,13 +5,15 @@
 
 #include <QPainter>
 
-/// A view with a lavender ground and, once it gets a width, a white border.
+/// A view with a lavender ground and, once it gets a width, a white border. It updates the whole
+/// viewport, as the border stays where it is while the scene scrolls.
 CGraphicsView::CGraphicsView(QWidget* parent)
     : QGraphicsView(parent),
       m_borderWidth(0),
       m_borderColor(Qt::white),
       m_backgroundColor(CWidgetStyle::getColor(CWidgetStyle::ContainerGroundColor))
 {
+    setViewportUpdateMode(FullViewportUpdate);
 }
 
 CGraphicsView::~CGraphicsView()

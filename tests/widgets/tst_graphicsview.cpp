@@ -5,7 +5,9 @@
 #include <QApplication>
 #include <QGraphicsRectItem>
 #include <QGraphicsScene>
+#include <QPaintEvent>
 #include <QPainter>
+#include <QScrollBar>
 
 using testing::canvas;
 
@@ -46,6 +48,7 @@ private Q_SLOTS:
     void paintsGroundAndBorders();
     void invalidColors();
     void sceneIsDrawnOver();
+    void scrollingPaintsTheWholeViewport();
 };
 
 void tst_graphicsview::defaults()
@@ -155,6 +158,45 @@ void tst_graphicsview::sceneIsDrawnOver()
     view.show();
     QVERIFY(testcompat::waitForWindow(&view));
     CWIDGET_COMPARE_IMAGES(renderViewport(&view), canvas(view.viewport(), Qt::black));
+}
+
+namespace
+{
+
+/// Collects what a widget paints.
+class PaintWatcher : public QObject
+{
+public:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            region += static_cast<QPaintEvent*>(event)->region();
+        return QObject::eventFilter(watched, event);
+    }
+
+    QRegion region;
+};
+
+} // namespace
+
+/// The border does not move with the scene, so what Qt would copy is wrong.
+void tst_graphicsview::scrollingPaintsTheWholeViewport()
+{
+    QGraphicsScene scene(0, 0, 400, 400);
+    CGraphicsView view;
+    view.setFixedSize(100, 80);
+    view.setBorderWidth(6);
+    view.setScene(&scene);
+    view.show();
+    QVERIFY(testcompat::waitForWindow(&view));
+    QCoreApplication::processEvents();
+    PaintWatcher watcher;
+    view.viewport()->installEventFilter(&watcher);
+    view.verticalScrollBar()->setValue(view.verticalScrollBar()->value() + 5);
+    for (int i = 0; i < 50 && watcher.region.isEmpty(); ++i)
+        QTest::qWait(1);
+    QCOMPARE(watcher.region.boundingRect(), view.viewport()->rect());
+    QCOMPARE(view.viewportUpdateMode(), QGraphicsView::FullViewportUpdate);
 }
 
 QTEST_MAIN(tst_graphicsview)
