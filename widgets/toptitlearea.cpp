@@ -1,17 +1,22 @@
 #include "widgets/toptitlearea.h"
 
+#include "style/qtcompat.h"
+#include "style/widgetstyle.h"
+
 #include <QPainter>
 
 namespace
 {
 
 const QPointF titleBaseline(20.0, 20.0);
+const int stripHeight = 30;
 
 } // namespace
 
-/// A strip without a title.
+/// A strip without a title, in the font of the style file's entry "CTopTitleArea".
 CTopTitleArea::CTopTitleArea(QWidget* parent) : CWidget(parent)
 {
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CTopTitleArea"), 0));
 }
 
 CTopTitleArea::~CTopTitleArea()
@@ -29,7 +34,24 @@ QString CTopTitleArea::title() const
 void CTopTitleArea::setTitle(const QString& title)
 {
     m_title = title;
+    updateGeometry();
     update();
+}
+
+/// The title with the same margin on both sides, and 30 pixels, or as many as a larger font needs
+/// below the baseline.
+QSize CTopTitleArea::sizeHint() const
+{
+    const QFontMetrics metrics(font());
+    const int left = static_cast<int>(titleBaseline.x());
+    const int below = static_cast<int>(titleBaseline.y()) + metrics.descent() + 1;
+    return QSize(left + qtcompat::textWidth(metrics, m_title) + left, qMax(stripHeight, below));
+}
+
+/// The height of the size hint. A title may be cut off.
+QSize CTopTitleArea::minimumSizeHint() const
+{
+    return QSize(0, sizeHint().height());
 }
 
 void CTopTitleArea::paintEvent(QPaintEvent* event)

@@ -21,6 +21,9 @@ public:
     QString title() const;
     void setTitle(const QString& title);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 

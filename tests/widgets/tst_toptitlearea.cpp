@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QVBoxLayout>
 
 using testing::canvas;
 using testing::render;
@@ -17,6 +18,10 @@ private Q_SLOTS:
     void paintsTitleOnItsBaseline();
     void longTitleIsCutOff();
     void groundAndBorderAreUnderTheTitle();
+    void fontComesFromItsOwnStyle();
+    void styleIsOffWithoutAutoStyle();
+    void sizeHintCoversTheTitle();
+    void layoutGivesTheStripItsHeight();
 };
 
 void tst_toptitlearea::titleIsStoredAndRepaints()
@@ -81,6 +86,71 @@ void tst_toptitlearea::groundAndBorderAreUnderTheTitle()
     painter.drawText(QPointF(20.0, 20.0), QLatin1String("T"));
     painter.end();
     CWIDGET_COMPARE_IMAGES(render(&area), expected);
+}
+
+void tst_toptitlearea::fontComesFromItsOwnStyle()
+{
+    const testing::TemporaryFolder folder;
+    QVERIFY(CWidgetStyle::initialize(folder.write(
+        QLatin1String("style.xml"),
+        "<r><widget name=\"CTopTitleArea\"><FieldAll><font family=\"Arial\" size=\"23\"/>"
+        "<color foreground-color=\"#ff0000\" background-color=\"#00ff00\"/></FieldAll></widget>"
+        "<widget name=\"CWidget\"><FieldAll><font family=\"Arial\" "
+        "size=\"24\"/></FieldAll></widget>"
+        "</r>")));
+    CTopTitleArea area;
+    QCOMPARE(area.font().pixelSize(), 23);
+    QVERIFY(!area.getBackgroundColor().isValid());
+}
+
+void tst_toptitlearea::styleIsOffWithoutAutoStyle()
+{
+    CTopTitleArea area;
+    area.setFont(testing::testFont(13));
+    area.setAutoStyleEnabled(false);
+    area.setWidgetStyle(testing::styleOf(Style::FieldAll, testing::testFont(22)));
+    QCOMPARE(area.font().pixelSize(), 13);
+}
+
+void tst_toptitlearea::sizeHintCoversTheTitle()
+{
+    const char* const titles[] = {"", "T", "Measurement", "(gjpqy)"};
+    for (int size = 8; size <= 20; size += 4) {
+        for (size_t i = 0; i < sizeof titles / sizeof titles[0]; ++i) {
+            CTopTitleArea area;
+            area.setFont(testing::testFont(size, true));
+            area.setTitle(QLatin1String(titles[i]));
+            const QSize hint = area.sizeHint();
+            QVERIFY(hint.height() >= 30);
+            QCOMPARE(area.minimumSizeHint().height(), hint.height());
+            area.resize(hint + QSize(100, 100));
+            QImage image = render(&area);
+            QPainter(&image).fillRect(QRect(QPoint(), hint), Qt::magenta);
+            CWIDGET_COMPARE_IMAGES(image, canvas(&area)); // nothing outside
+        }
+    }
+}
+
+void tst_toptitlearea::layoutGivesTheStripItsHeight()
+{
+    QWidget window;
+    QVBoxLayout* column = new QVBoxLayout(&window);
+    column->setContentsMargins(0, 0, 0, 0);
+    CTopTitleArea* area = new CTopTitleArea;
+    area->setTitle(QLatin1String("Measurement"));
+    column->addWidget(area);
+    column->addStretch();
+    window.resize(300, 200);
+    window.show();
+    QVERIFY(testcompat::waitForWindow(&window));
+    QCOMPARE(area->size(), QSize(300, 30));
+    QVERIFY(testing::repaints(&window, [&] { area->setFont(testing::testFont(80)); }));
+    QCOMPARE(area->height(), area->sizeHint().height());
+    QVERIFY(area->height() > 30);
+    const int width = area->sizeHint().width();
+    area->setTitle(QLatin1String("Measurement of the pressure"));
+    QVERIFY(area->sizeHint().width() > width);
+    QCOMPARE(area->minimumSizeHint().width(), 0); // a title may be cut off
 }
 
 QTEST_MAIN(tst_toptitlearea)
