@@ -65,7 +65,8 @@ CPushButton::CPushButton(QWidget* parent)
       m_textSize(defaultTextSize),
       m_textColor(Qt::black),
       m_backgroundColor(99, 94, 128, 255),
-      m_autoStyleEnabled(true)
+      m_autoStyleEnabled(true),
+      m_looksPressed(false)
 {
     initialize();
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CPushButton"), 0));
@@ -244,6 +245,7 @@ void CPushButton::setSelected(bool selected)
 void CPushButton::updateStatus(ButtonState state)
 {
     if (const StateRow* row = rowOf(states, state)) {
+        m_looksPressed = state == Pressed;
         if (m_extraAttrs.contains(row->pixmap))
             m_background = m_extraAttrs.value(row->pixmap).value<QPixmap>();
         if (m_extraAttrs.contains(row->textColor))
@@ -284,6 +286,14 @@ void CPushButton::mouseReleaseEvent(QMouseEvent* event)
     const QPointer<CPushButton> self(this); // a slot of clicked() may delete the button
     QPushButton::mouseReleaseEvent(event);
     if (self && isEnabled())
+        updateStatus(Released);
+}
+
+/// A button that is disabled under the finger would look pressed for ever.
+void CPushButton::changeEvent(QEvent* event)
+{
+    QPushButton::changeEvent(event);
+    if (event->type() == QEvent::EnabledChange && !isEnabled() && m_looksPressed)
         updateStatus(Released);
 }
 

@@ -99,6 +99,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     QPixmap iconPixmap() const;
@@ -119,6 +120,7 @@ private:
     QPixmap m_background;
     QMap<ExtraAttr, QVariant> m_extraAttrs;
     bool m_autoStyleEnabled;
+    bool m_looksPressed;
 
     Q_DISABLE_COPY(CPushButton)
 };

@@ -1,4 +1,6 @@
+#include "style/qtcompat.h"
 #include "support/keypads.h"
+#include "support/signaltools.h"
 
 #include <QPainter>
 #include <QSignalSpy>
@@ -78,6 +80,8 @@ private Q_SLOTS:
     void touchDoesNotSelect();
     void touchIsAClick();
     void quickSecondTouchIsAPressToo();
+    void quickSecondTouchKeepsButtonsAndModifiers();
+    void keyDisabledByItsOwnSlotIsReleased();
     void disabledKeyKeepsItsLook();
     void missingAttributesKeepTheLook();
     void backspaceDrawsAnArrow_data();
@@ -231,6 +235,64 @@ void tst_keybutton::quickSecondTouchIsAPressToo()
     key.setEnabled(false);
     testing::pressAgain(&key);
     QCOMPARE(presses.count(), 2);
+}
+
+namespace
+{
+
+/// Writes down the last press that an object gets.
+class PressWatcher : public QObject
+{
+public:
+    PressWatcher() : button(Qt::NoButton), buttons(Qt::NoButton), modifiers(Qt::NoModifier)
+    {
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::MouseButtonPress) {
+            const QMouseEvent* press = static_cast<QMouseEvent*>(event);
+            button = press->button();
+            buttons = press->buttons();
+            modifiers = press->modifiers();
+            place = qtcompat::eventPos(press);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+    Qt::MouseButton button;
+    Qt::MouseButtons buttons;
+    Qt::KeyboardModifiers modifiers;
+    QPoint place;
+};
+
+} // namespace
+
+void tst_keybutton::quickSecondTouchKeepsButtonsAndModifiers()
+{
+    QWidget window;
+    CKeyButton* key = new CKeyButton(&window);
+    key->move(30, 40);
+    PressWatcher watcher;
+    key->installEventFilter(&watcher);
+    QMouseEvent event(QEvent::MouseButtonDblClick, QPoint(7, 9), key->mapToGlobal(QPoint(7, 9)),
+                      Qt::RightButton, Qt::LeftButton | Qt::RightButton,
+                      Qt::ShiftModifier | Qt::KeypadModifier);
+    QCoreApplication::sendEvent(key, &event);
+    QCOMPARE(watcher.button, Qt::RightButton);
+    QCOMPARE(watcher.buttons, Qt::MouseButtons(Qt::LeftButton | Qt::RightButton));
+    QCOMPARE(watcher.modifiers, Qt::KeyboardModifiers(Qt::ShiftModifier | Qt::KeypadModifier));
+    QCOMPARE(watcher.place, QPoint(7, 9));
+}
+
+void tst_keybutton::keyDisabledByItsOwnSlotIsReleased()
+{
+    LookingKey key;
+    Reaction reaction(&key, SIGNAL(clicked()), [&key]() { key.setEnabled(false); });
+    press(&key);
+    QCOMPARE(key.look(), QColor(Qt::red));
+    release(&key);
+    QCOMPARE(key.look(), QColor(Qt::green));
 }
 
 void tst_keybutton::disabledKeyKeepsItsLook()

@@ -1,3 +1,4 @@
+#include "support/signaltools.h"
 #include "support/testing.h"
 
 #include "widgets/pushbutton.h"
@@ -84,6 +85,10 @@ private Q_SLOTS:
     void releaseOutside();
     void disabledButtonKeepsItsLook();
     void disabledWhilePressed();
+    void disabledByItsOwnSlot_data();
+    void disabledByItsOwnSlot();
+    void disabledWithItsParentWhilePressed();
+    void disablingLeavesOtherLooks();
     void clickLeavesASelectedButtonReleased();
     void setSelectedWithoutPicture();
     void buttonDeletedByItsOwnSignals();
@@ -314,8 +319,65 @@ void tst_pushbutton::disabledWhilePressed()
     giveLooks(&button);
     QTest::mousePress(&button, Qt::LeftButton);
     button.setEnabled(false);
+    QCOMPARE(colorOf(button.getBackground()), QColor(Qt::green));
+    QCOMPARE(button.getTextColor(), QColor(Qt::yellow));
     QTest::mouseRelease(&button, Qt::LeftButton);
+    QCOMPARE(colorOf(button.getBackground()), QColor(Qt::green));
+    button.setEnabled(true);
+    QCOMPARE(colorOf(button.getBackground()), QColor(Qt::green));
+}
+
+void tst_pushbutton::disabledByItsOwnSlot_data()
+{
+    QTest::addColumn<QByteArray>("signal");
+    QTest::addColumn<QColor>("look");
+    QTest::newRow("pressed") << QByteArray(SIGNAL(pressed())) << QColor(Qt::white); // too early
+    QTest::newRow("released") << QByteArray(SIGNAL(released())) << QColor(Qt::green);
+    QTest::newRow("clicked") << QByteArray(SIGNAL(clicked())) << QColor(Qt::green);
+}
+
+void tst_pushbutton::disabledByItsOwnSlot()
+{
+    QFETCH(QByteArray, signal);
+    QFETCH(QColor, look);
+    CPushButton button;
+    giveLooks(&button);
+    Reaction reaction(&button, signal.constData(), [&button]() { button.setEnabled(false); });
+    QTest::mousePress(&button, Qt::LeftButton);
+    QTest::mouseRelease(&button, Qt::LeftButton);
+    QVERIFY(!button.isEnabled());
+    QCOMPARE(colorOf(button.getBackground()), look);
+}
+
+void tst_pushbutton::disabledWithItsParentWhilePressed()
+{
+    QWidget parent;
+    CPushButton* button = new CPushButton(&parent);
+    giveLooks(button);
+    QTest::mousePress(button, Qt::LeftButton);
+    QCOMPARE(colorOf(button->getBackground()), QColor(Qt::red));
+    parent.setEnabled(false);
+    QCOMPARE(colorOf(button->getBackground()), QColor(Qt::green));
+}
+
+void tst_pushbutton::disablingLeavesOtherLooks()
+{
+    CPushButton button;
+    giveLooks(&button);
+    button.setEnabled(false);
+    QCOMPARE(colorOf(button.getBackground()), QColor(Qt::white));
+    button.setEnabled(true);
+    button.setSelected(true);
+    button.setEnabled(false);
+    QCOMPARE(colorOf(button.getBackground()), QColor(Qt::blue));
+    QCOMPARE(button.getTextColor(), QColor(Qt::magenta));
+    button.setEnabled(true);
+    button.updateStatus(CPushButton::Pressed);
+    button.setEnabled(true); // no change
     QCOMPARE(colorOf(button.getBackground()), QColor(Qt::red));
+    button.setEnabled(false);
+    QCOMPARE(colorOf(button.getBackground()), QColor(Qt::green));
+    QVERIFY(button.isSelected());
 }
 
 void tst_pushbutton::clickLeavesASelectedButtonReleased()
