@@ -48,6 +48,7 @@ CPageWidget::CPageWidget(QWidget* parent)
     layout->setSpacing(0);
     layout->addWidget(m_stack);
     layout->addWidget(m_pageBar);
+    letBarGrow();
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CPageWidget"), 0));
     setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::ContainerGroundColor));
     connect(m_pageBar, SIGNAL(pageChanged(int)), this, SLOT(setCurrentPage(int)));
@@ -55,6 +56,15 @@ CPageWidget::CPageWidget(QWidget* parent)
 
 CPageWidget::~CPageWidget()
 {
+}
+
+/// In a layout the bar is as wide as the pages, with its arrows in the middle, and not narrower
+/// than these; by itself it would stand on the left.
+void CPageWidget::letBarGrow()
+{
+    m_pageBar->setMinimumWidth(0);
+    m_pageBar->setMaximumWidth(QWIDGETSIZE_MAX);
+    m_pageBar->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
 /// Appends \a page, which becomes a child, and gives it the number of its position. A null page is

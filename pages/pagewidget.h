@@ -58,6 +58,7 @@ Q_SIGNALS:
 private:
     typedef QPointer<QWidget> PagePointer; // an application may delete a page that is hidden
 
+    void letBarGrow();
     QWidget* takeHiddenPage(int number);
     int positionBehind(int number) const;
     QList<QWidget*> updateTargets() const;

@@ -71,6 +71,10 @@ private Q_SLOTS:
     void newPageWidgetIsEmpty();
     void layoutIsTight();
     void setSizeLeavesRoomForTheBar();
+    void layoutCentersTheBar_data();
+    void layoutCentersTheBar();
+    void arrowsHaveRoomInANarrowLayout();
+    void setSizeAfterALayout();
     void sizesBelowTheBarAreHarmless();
     void groundReachesTheBar();
     void addedPagesAreNumberedByPosition();
@@ -119,6 +123,70 @@ void tst_pagewidget::setSizeLeavesRoomForTheBar()
     QCOMPARE(stackOf(pages)->geometry(), QRect(0, 0, 400, 270));
     QCOMPARE(barOf(pages)->geometry(), QRect(0, 270, 400, 30));
     QCOMPARE(page->size(), QSize(400, 270));
+}
+
+void tst_pagewidget::layoutCentersTheBar_data()
+{
+    QTest::addColumn<int>("width");
+    QTest::newRow("wide") << 700;
+    QTest::newRow("odd") << 401;
+    QTest::newRow("narrow") << 160;
+}
+
+void tst_pagewidget::layoutCentersTheBar()
+{
+    QFETCH(int, width);
+    QWidget window;
+    QVBoxLayout* column = new QVBoxLayout(&window);
+    column->setContentsMargins(0, 0, 0, 0);
+    CPageWidget* pages = new CPageWidget;
+    QWidget* page = addPages(pages, 2).first();
+    column->addWidget(pages);
+    window.resize(width, 300);
+    window.show();
+    QVERIFY(testcompat::waitForWindow(&window));
+    QCOMPARE(barOf(*pages)->geometry(), QRect(0, 270, width, 30));
+    QCOMPARE(page->size(), QSize(width, 270));
+    const QList<CPushButton*> arrows = barOf(*pages)->findChildren<CPushButton*>();
+    const int left = arrows.at(0)->x();
+    const int right = width - arrows.at(1)->geometry().right() - 1;
+    QVERIFY2(left >= 0 && qAbs(left - right) <= 1, qPrintable(QString::number(left - right)));
+    QCOMPARE(arrows.at(0)->size(), QSize(26, 20));
+    QCOMPARE(arrows.at(1)->size(), QSize(26, 20));
+}
+
+void tst_pagewidget::arrowsHaveRoomInANarrowLayout()
+{
+    QWidget window;
+    QVBoxLayout* column = new QVBoxLayout(&window);
+    column->setContentsMargins(0, 0, 0, 0);
+    CPageWidget* pages = new CPageWidget;
+    addPages(pages, 2);
+    column->addWidget(pages);
+    window.resize(10, 100);
+    window.show();
+    QVERIFY(testcompat::waitForWindow(&window));
+    const QRect bar = barOf(*pages)->rect();
+    const QList<CPushButton*> arrows = barOf(*pages)->findChildren<CPushButton*>();
+    QVERIFY(bar.contains(arrows.at(0)->geometry()));
+    QVERIFY(bar.contains(arrows.at(1)->geometry()));
+    QVERIFY(pages->rect().contains(barOf(*pages)->geometry()));
+}
+
+void tst_pagewidget::setSizeAfterALayout()
+{
+    QWidget window;
+    QVBoxLayout* column = new QVBoxLayout(&window);
+    CPageWidget* pages = new CPageWidget;
+    addPages(pages, 2);
+    column->addWidget(pages);
+    window.resize(500, 400);
+    window.show();
+    QVERIFY(testcompat::waitForWindow(&window));
+    pages->setSize(300, 200);
+    QCoreApplication::processEvents();
+    QCOMPARE(pages->size(), QSize(300, 200));
+    QCOMPARE(barOf(*pages)->geometry(), QRect(0, 170, 300, 30));
 }
 
 void tst_pagewidget::sizesBelowTheBarAreHarmless()
