@@ -59,6 +59,8 @@ private Q_SLOTS:
     void gridOfEachType();
     void everyKeyIsInsideTheDialog_data();
     void everyKeyIsInsideTheDialog();
+    void lowestKeysKeepAwayFromTheEdge_data();
+    void lowestKeysKeepAwayFromTheEdge();
     void gridBelowTheFieldAfterResizing();
     void initializeBuildsOnce();
     void fieldFiltersAKeyboardByType();
@@ -176,6 +178,27 @@ void tst_softkeypad::everyKeyIsInsideTheDialog()
         QVERIFY2(!taken.intersects(place), qPrintable(keys.at(i)->getText()));
         taken += place;
     }
+}
+
+void tst_softkeypad::lowestKeysKeepAwayFromTheEdge_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("as made") << QSize(519, 390);
+    QTest::newRow("larger") << QSize(640, 480);
+    QTest::newRow("odd") << QSize(601, 401);
+}
+
+/// Two pixels of the dialog, and what the rows leave over when they share the height.
+void tst_softkeypad::lowestKeysKeepAwayFromTheEdge()
+{
+    QFETCH(QSize, size);
+    CSoftKeyPad dialog(CKeyPadFactory::SKP_GENERAL);
+    dialog.setSize(size.width(), size.height());
+    dialog.show();
+    QVERIFY(testcompat::waitForWindow(&dialog));
+    const CAbstractKeyPad* grid = gridOf(&dialog);
+    const int bottom = grid->y() + grid->contentsRect().bottom();
+    QCOMPARE(dialog.rect().bottom() - (bottom - grid->layout()->contentsMargins().bottom()), 2);
 }
 
 void tst_softkeypad::gridBelowTheFieldAfterResizing()

@@ -99,6 +99,7 @@ private Q_SLOTS:
     void wordWrapOfAFittingTextUsesTheAlignment();
     void overLongWordIsDrawnAgainFromItsSeparator();
     void lookBackEndsWithTheLine();
+    void lookBackEndsWhereNothingOfTheLineIsLeft();
     void layoutEndsBelowTheLabel();
     void labelsNarrowerThanAGlyph();
     void everyTextEnds();
@@ -187,6 +188,22 @@ void tst_label_wrapping::lookBackEndsWithTheLine()
     // The separator starts a line of its own, as its word is wider than one.
     const QStringList expected = QStringList() << QString() << latin(" iiiiii") << latin("ii");
     CWIDGET_COMPARE_IMAGES(render(&label), lines(label, expected));
+}
+
+/// All of these are as wide as each other, so that the line is used up just before its blank.
+void tst_label_wrapping::lookBackEndsWhereNothingOfTheLineIsLeft()
+{
+    const QFontMetrics metrics(testFont(13));
+    QCOMPARE(testcompat::textWidth(metrics, latin("t")),
+             testcompat::textWidth(metrics, latin(" ")));
+    CLabel label;
+    label.setFont(testFont(13));
+    label.setSize(labelFor(" ttt"), 60);
+    label.setWrapMode(CLabel::WordWrap);
+    label.setText(latin(" tttttttt"));
+    // The blank makes room for its word on the second line; there one letter is left out.
+    CWIDGET_COMPARE_IMAGES(
+        render(&label), lines(label, QStringList() << latin("") << latin(" ttt") << latin("tttt")));
 }
 
 void tst_label_wrapping::layoutEndsBelowTheLabel()

@@ -55,6 +55,7 @@ private Q_SLOTS:
     void hidingAndShowingTheTopChangesNothing();
     void showingALowerOnePushesItAgain();
     void popAllHidesAll();
+    void popAllLeavesWhatIsPushedMeanwhile();
     void popOfANullEntry();
     void popOntoANullEntry();
     void popOntoAPlainWidget();
@@ -182,6 +183,37 @@ void tst_widgetstack::popAllHidesAll()
     QVERIFY(!panel.c.isVisible());
     panel.a.show();
     QCOMPARE(stack()->size(), 1);
+}
+
+void tst_widgetstack::popAllLeavesWhatIsPushedMeanwhile()
+{
+    /// Pushes another widget as soon as it is hidden.
+    class Pusher : public QWidget
+    {
+    public:
+        Pusher(QWidget* parent, QWidget* next) : QWidget(parent), m_next(next)
+        {
+        }
+
+    protected:
+        void hideEvent(QHideEvent*) override
+        {
+            stack()->push(m_next);
+        }
+
+    private:
+        QWidget* m_next;
+    };
+    Panel panel;
+    Pusher pusher(&panel.window, &panel.c);
+    panel.a.show();
+    panel.a.hide(); // so that it is shown again
+    pusher.show();
+    stack()->push(&pusher);
+    QCOMPARE(stack()->popAll(), 2);
+    QCOMPARE(stack()->size(), 1);
+    QCOMPARE(stack()->pop(), static_cast<QWidget*>(&panel.a));
+    QCOMPARE(stack()->size(), 0);
 }
 
 void tst_widgetstack::popOfANullEntry()
