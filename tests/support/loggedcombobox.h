@@ -12,9 +12,11 @@ inline QString text(const char* latin1)
     return QString::fromLatin1(latin1);
 }
 
-/// A box whose signals are written down, "row" being Qt's own of the closed box.
+/// Owns a box whose signals are written down, "row" being Qt's own of the closed box.
 struct LoggedComboBox {
-    explicit LoggedComboBox(const QStringList& texts = numberedTexts(7)) : box(new CComboBox)
+    explicit LoggedComboBox(const QStringList& texts = numberedTexts(7),
+                            CComboBox* watched = new CComboBox)
+        : box(watched)
     {
         box->addItems(texts);
         tap("row", SIGNAL(currentIndexChanged(int)));

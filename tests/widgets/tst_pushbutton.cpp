@@ -87,6 +87,7 @@ private Q_SLOTS:
     void disabledWhilePressed();
     void disabledByItsOwnSlot_data();
     void disabledByItsOwnSlot();
+    void selectedAndDisabledByItsOwnSlot();
     void disabledWithItsParentWhilePressed();
     void disablingLeavesOtherLooks();
     void clickLeavesASelectedButtonReleased();
@@ -347,6 +348,18 @@ void tst_pushbutton::disabledByItsOwnSlot()
     QTest::mouseRelease(&button, Qt::LeftButton);
     QVERIFY(!button.isEnabled());
     QCOMPARE(colorOf(button.getBackground()), look);
+}
+
+void tst_pushbutton::selectedAndDisabledByItsOwnSlot()
+{
+    CPushButton button;
+    giveLooks(&button);
+    Reaction reaction(&button, SIGNAL(clicked()), [&button]() {
+        button.setSelected(true);
+        button.setEnabled(false);
+    });
+    QTest::mouseClick(&button, Qt::LeftButton);
+    QCOMPARE(colorOf(button.getBackground()), QColor(Qt::blue));
 }
 
 void tst_pushbutton::disabledWithItsParentWhilePressed()
