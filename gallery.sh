@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds the library and the gallery, and runs it. Without a display the
-# gallery writes a picture of each of its screens instead. Arguments go to the gallery; with none,
-# and no display, the pictures are written to build/shots.
+# Installs what is missing, builds the library and the gallery, and runs it. Arguments go to the
+# gallery, which says what to do where there is no display; with none, it writes a picture of each
+# of its screens to build/shots there.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 source tools/packages.sh

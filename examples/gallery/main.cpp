@@ -27,15 +27,25 @@ const char usage[] =
     "  --screen NAME   the screen to start with: ";
 
 const char usageEnd[] = "  --shots DIR     draw every screen into a picture in DIR, and leave\n"
-                        "  --log           print what the bottom bar says\n";
+                        "  --log           print what the bottom bar says\n"
+                        "  --help          print this, and leave\n";
+
+const char noDisplay[] =
+    "There is no display. Draw the screens into pictures instead, with --shots DIR, or serve the\n"
+    "panel over the network, without a password, with --platform vnc:size=800x600\n";
+
+const char servedByVnc[] =
+    "The panel is served by VNC, on port 5900, without a password: whoever reaches this machine\n"
+    "can see and use it.\n";
 
 struct Options {
-    Options() : valid(true), log(false)
+    Options() : valid(true), log(false), help(false)
     {
     }
 
     bool valid;
     bool log;
+    bool help;
     QString style;
     QString screen;
     QString shots;
@@ -52,44 +62,66 @@ Options takeOptions(QStringList* arguments)
                          : name == QLatin1String("--screen") ? &options.screen
                          : name == QLatin1String("--shots")  ? &options.shots
                                                              : 0;
-        if (!value && name != QLatin1String("--log")) {
+        bool* flag = name == QLatin1String("--log")    ? &options.log
+                     : name == QLatin1String("--help") ? &options.help
+                                                       : 0;
+        if (!value && !flag) {
             ++i;
             continue;
         }
         arguments->removeAt(i);
-        if (!value) {
-            options.log = true;
+        if (flag) {
+            *flag = true;
             continue;
         }
         options.valid = i < arguments->size();
         if (options.valid)
             *value = arguments->takeAt(i);
+        else
+            fprintf(stderr, "%s needs a value\n", qPrintable(name));
     }
     return options;
 }
 
-int printUsage()
+void printUsage(FILE* file)
 {
-    fprintf(stderr, "%s%s\n%s", usage, qPrintable(Panel::screenNames().join(QLatin1String(", "))),
+    fprintf(file, "%s%s\n%s", usage, qPrintable(Panel::screenNames().join(QLatin1String(", "))),
             usageEnd);
+}
+
+int printMistake(const char* what, const QString& word)
+{
+    fprintf(stderr, "%s: %s\n", what, qPrintable(word));
+    printUsage(stderr);
     return 2;
 }
 
-/// Without a display Qt could only give up. The panel is then drawn in memory, or served by VNC.
-void choosePlatform(const Options& options, const QStringList& arguments)
+/// The platform that is asked for; empty where Qt is to choose.
+QString platformOf(const QStringList& arguments)
 {
-    const bool chosen = !qgetenv("QT_QPA_PLATFORM").isEmpty() || !qgetenv("DISPLAY").isEmpty() ||
-                        !qgetenv("WAYLAND_DISPLAY").isEmpty() ||
-                        arguments.contains(QLatin1String("-platform")) ||
-                        arguments.contains(QLatin1String("--platform"));
-    if (chosen)
-        return;
-    if (!options.shots.isEmpty()) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    } else {
-        qputenv("QT_QPA_PLATFORM", "vnc:size=800x600");
-        fprintf(stderr, "There is no display: the panel is served by VNC, on port 5900.\n");
+    for (int i = 1; i + 1 < arguments.size(); ++i) {
+        if (arguments.at(i) == QLatin1String("-platform") ||
+            arguments.at(i) == QLatin1String("--platform"))
+            return arguments.at(i + 1);
     }
+    return QString::fromLocal8Bit(qgetenv("QT_QPA_PLATFORM"));
+}
+
+/// Without a display Qt could only give up. Pictures are then drawn in memory; returns false, and
+/// says what to do, where that is not what is wanted.
+bool choosePlatform(const Options& options, const QStringList& arguments)
+{
+    const QString platform = platformOf(arguments);
+    if (platform.startsWith(QLatin1String("vnc")))
+        fputs(servedByVnc, stderr);
+    if (!platform.isEmpty() || !qgetenv("DISPLAY").isEmpty() ||
+        !qgetenv("WAYLAND_DISPLAY").isEmpty())
+        return true;
+    if (options.shots.isEmpty())
+        fputs(noDisplay, stderr);
+    else
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    return !options.shots.isEmpty();
 }
 
 /// What is left of the command line, as main() gets it.
@@ -162,14 +194,22 @@ int main(int argc, char** argv)
     for (int i = 0; i < argc; ++i)
         words.append(QString::fromLocal8Bit(argv[i]));
     const Options options = takeOptions(&words);
-    if (!options.valid ||
-        !(options.screen.isEmpty() || Panel::screenNames().contains(options.screen)))
-        return printUsage();
-    choosePlatform(options, words);
+    if (options.help) {
+        printUsage(stdout);
+        return 0;
+    }
+    if (!options.valid) {
+        printUsage(stderr);
+        return 2;
+    }
+    if (!options.screen.isEmpty() && !Panel::screenNames().contains(options.screen))
+        return printMistake("no such screen", options.screen);
+    if (!choosePlatform(options, words))
+        return 1;
     Arguments arguments(words);
     QApplication application(arguments.count(), arguments.values());
     QApplication::setApplicationName(QLatin1String("Quorlin gallery"));
     if (QApplication::arguments().size() > 1) // neither ours nor Qt's
-        return printUsage();
+        return printMistake("unknown option", QApplication::arguments().at(1));
     return run(options);
 }

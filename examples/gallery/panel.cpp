@@ -161,6 +161,7 @@ void Panel::restyle(const QString& family)
 void Panel::updateWidgetStyle()
 {
     CWidget::updateWidgetStyle();
+    restyleAll<CTopTitleArea>(this, "CTopTitleArea"); // whose class is one of the gallery
     restyleAll<CPushButton>(this, "CPushButton");
     restyleAll<CCheckBox>(this, "CCheckBox");
     restyleAll<CLineEdit>(this, "CLineEdit");

@@ -29,7 +29,7 @@ int entryOf(const QString& name)
     QProcess usage;
     usage.start(latin(GALLERY), QStringList(latin("--help")));
     usage.waitForFinished(15000);
-    const QString text = QString::fromLatin1(usage.readAllStandardError());
+    const QString text = QString::fromLatin1(usage.readAllStandardOutput());
     const QString names = text.section(latin("start with: "), 1).section(QLatin1Char('\n'), 0, 0);
     return names.split(latin(", ")).indexOf(name);
 }
