@@ -80,7 +80,7 @@ void CLineEdit::setRange(int min, int max)
 }
 
 /// Stores the bounds and gives the keypad a range: wanted, the integer one, which is from 0 to 0
-/// until it is set. Who needs bounds as texts calls CKeyPadFactory.
+/// until it is set. The text bounds are kept and used nowhere.
 void CLineEdit::setRange(const QString& min, const QString& max)
 {
     m_rangeEnabled = true;

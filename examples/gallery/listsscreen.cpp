@@ -20,14 +20,8 @@ const int recipeCount = 60;
 const char* const units[] = {"bar", "mbar", "psi", "kPa", "mmHg", "atm", "Torr", "inHg"};
 const int unitCount = sizeof units / sizeof units[0];
 
-const char* const languages[] = {"English",
-                                 "Deutsch",
-                                 "Fran\xC3\xA7"
-                                 "ais",
-                                 "Espa\xC3\xB1ol",
-                                 "Italiano",
-                                 "Polski",
-                                 "Portugu\xC3\xAAs"};
+const char* const languages[] = {"English",  "Deutsch", "Fran\303\247ais", "Espa\xC3\xB1ol",
+                                 "Italiano", "Polski",  "Portugu\xC3\xAAs"};
 const int languageCount = sizeof languages / sizeof languages[0];
 const int westernCount = 3;
 

@@ -24,7 +24,7 @@ public:
     void release();
     void click(const QPoint& point);
 
-    /// Waits so long that a next click at the same place is no double click, which keys ignore.
+    /// Waits so long that a next click at the same place is no double click.
     void separateClicks() const;
     void close();
 
