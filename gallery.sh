@@ -12,7 +12,8 @@ cwidget_install $(cwidget_build_packages 5) $(cwidget_run_packages 5)
 
 log=$build/build.log
 mkdir -p "$build"
-if ! { cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DBUILD_TESTING=OFF &&
+if ! { cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DBUILD_TESTING=OFF \
+    -DCWIDGET_BUILD_DESIGNER=OFF &&
     cmake --build "$build"; } >"$log" 2>&1; then
     tail -n 40 "$log" >&2
     echo "The build failed; all of its output is in $log" >&2

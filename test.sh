@@ -36,7 +36,8 @@ fi
 
 test_packages="clang-format-14 xvfb openbox xdotool x11-utils usbutils util-linux"
 # shellcheck disable=SC2046,SC2086
-cwidget_install $(cwidget_build_packages "$qt") $(cwidget_run_packages "$qt") $test_packages
+cwidget_install $(cwidget_build_packages "$qt") $(cwidget_run_packages "$qt") \
+    $(cwidget_designer_packages "$qt") $test_packages
 if [ -n "$bench" ]; then cwidget_install libbenchmark-dev; fi
 if [ -n "$fuzz" ]; then cwidget_install clang-14 libclang-rt-14-dev; fi
 

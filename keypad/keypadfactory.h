@@ -3,6 +3,7 @@
 
 #include "style/global.h"
 
+#include <QMetaType>
 #include <QObject>
 #include <QString>
 
@@ -37,5 +38,7 @@ public:
     static QString accessKeyPad(const QString& title, const QString& text, KeyPadType type,
                                 QWidget* parent = 0);
 };
+
+Q_DECLARE_METATYPE(CKeyPadFactory::KeyPadType)
 
 #endif

@@ -64,6 +64,17 @@ QStringList CComboBox::items() const
     return m_items;
 }
 
+/// Makes \a texts the table of entries, as addItems(), but the current index stays as far as the
+/// new table has it: for the same entries in another language.
+void CComboBox::setItems(const QStringList& texts)
+{
+    const QPointer<CComboBox> self(this); // a slot may delete the box
+    const int current = m_currentIndex;
+    addItems(texts);
+    if (self)
+        setCurrentIndex(current);
+}
+
 /// Makes \a texts the table of entries, all of them offered, with the first one shown, unless the
 /// table holds these texts already. Showing it may emit currentValueChanged() with its text.
 void CComboBox::addItems(const QStringList& texts)

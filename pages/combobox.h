@@ -18,7 +18,7 @@ class CWIDGET_EXPORT CComboBox : public QComboBox
 {
     Q_OBJECT
     Q_PROPERTY(QString title READ title WRITE setTitle)
-    Q_PROPERTY(QStringList items READ items WRITE addItems)
+    Q_PROPERTY(QStringList items READ items WRITE setItems)
     Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentIndex)
     Q_PROPERTY(bool borderVisible READ isBorderVisible WRITE setBorderVisible)
     Q_PROPERTY(QFont font READ font WRITE setFont)
@@ -29,6 +29,7 @@ public:
     ~CComboBox() override;
 
     QStringList items() const;
+    void setItems(const QStringList& texts);
     void addItems(const QStringList& texts);
 
     int currentIndex() const;

@@ -65,11 +65,13 @@ QStringList CPageListWidget::items() const
 }
 
 /// Makes \a texts the entries of the list, all of them taking part in paging, in place of those
-/// that are there.
+/// that are there. The current index stays.
 void CPageListWidget::setItems(const QStringList& texts)
 {
+    const int current = currentIndex();
     clear();
     addItems(texts);
+    setCurrentIndex(current);
 }
 
 /// Makes \a texts the list of texts, adds a row for each of them and lets all of them take part in

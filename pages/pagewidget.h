@@ -17,7 +17,7 @@ class CWIDGET_EXPORT CPageWidget : public CWidget
 {
     Q_OBJECT
     Q_PROPERTY(int count READ count)
-    Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentPage)
+    Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentPage STORED false)
     Q_PROPERTY(QColor backgroundColor READ getBackgroundColor WRITE setBackgroundColor)
     Q_PROPERTY(QPixmap background READ getBackground WRITE setBackground)
     Q_PROPERTY(QColor borderColor READ getBorderColor WRITE setBorderColor)

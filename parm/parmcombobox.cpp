@@ -5,6 +5,15 @@
 #include "style/widgetstyle.h"
 
 #include <QHBoxLayout>
+#include <QVariant>
+
+namespace
+{
+
+// What a form chose before it had the entries.
+const char wishedIndexProperty[] = "wishedIndex";
+
+} // namespace
 
 /// The name on grey and a combo box with the entries \a items, styled by the style file's entry
 /// "CParmComboBox". The entry \a current is chosen, in capitals or not; without one of that text
@@ -56,6 +65,20 @@ QStringList CParmComboBox::items() const
     return m_comboBox->items();
 }
 
+/// Replaces the entries, as addItems(), but the chosen index stays as far as there is one: for the
+/// same entries in another language.
+void CParmComboBox::setItems(const QStringList& items)
+{
+    const QVariant wished = property(wishedIndexProperty);
+    setProperty(wishedIndexProperty, QVariant());
+    if (wished.isValid()) {
+        m_comboBox->addItems(items);
+        setCurrentIndex(wished.toInt());
+    } else {
+        m_comboBox->setItems(items);
+    }
+}
+
 /// Replaces the entries and chooses the first one.
 void CParmComboBox::addItems(const QStringList& items)
 {
@@ -72,6 +95,15 @@ int CParmComboBox::currentIndex() const
 void CParmComboBox::setCurrentIndex(int index)
 {
     m_comboBox->setCurrentIndex(index);
+}
+
+/// The property: forms may set it before the entries.
+void CParmComboBox::applyCurrentIndex(int index)
+{
+    if (items().isEmpty())
+        setProperty(wishedIndexProperty, index);
+    else
+        setCurrentIndex(index);
 }
 
 /// The text that the closed combo box shows.

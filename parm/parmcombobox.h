@@ -16,8 +16,8 @@ class CWIDGET_EXPORT CParmComboBox : public CWidget
 {
     Q_OBJECT
     Q_PROPERTY(QString name READ name WRITE setName)
-    Q_PROPERTY(QStringList items READ items WRITE addItems)
-    Q_PROPERTY(int currentIndex READ currentIndex WRITE setCurrentIndex)
+    Q_PROPERTY(QStringList items READ items WRITE setItems)
+    Q_PROPERTY(int currentIndex READ currentIndex WRITE applyCurrentIndex)
     Q_PROPERTY(int fieldWidth READ width WRITE setWidth)
     Q_PROPERTY(QColor nameTextColor READ nameTextColor WRITE applyNameTextColor)
     Q_PROPERTY(QColor nameBackgroundColor READ nameBackgroundColor WRITE applyNameBackgroundColor)
@@ -37,6 +37,7 @@ public:
     QString name() const;
     void setName(const QString& name);
     QStringList items() const;
+    void setItems(const QStringList& items);
     void addItems(const QStringList& items);
     int currentIndex() const;
     QString currentText() const;
@@ -68,6 +69,8 @@ Q_SIGNALS:
 private:
     template <typename Mask>
     void offerMasked(Mask mask, unsigned int current);
+
+    void applyCurrentIndex(int index);
 
     // The properties of which the setters above address one by a flag.
     QColor nameTextColor() const;

@@ -3,6 +3,7 @@
 
 #include "style/global.h"
 
+#include <QMetaType>
 #include <QObject>
 
 /// The part of a parameter field that a setter is meant for, with the numbers of Style::Field.
@@ -49,5 +50,7 @@ public:
         Proportion5To1 = ::Proportion5To1
     };
 };
+
+Q_DECLARE_METATYPE(CParmField::Proportion)
 
 #endif

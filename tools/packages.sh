@@ -42,3 +42,11 @@ cwidget_run_packages() {
         6) echo libqt6gui6 qt6-qpa-plugins ;;
     esac
 }
+
+# What the plugin for Qt Designer and its tests need besides, and Designer itself.
+cwidget_designer_packages() {
+    case $1 in
+        5) echo qttools5-dev qttools5-dev-tools ;;
+        6) echo qt6-tools-dev qt6-tools-dev-tools ;;
+    esac
+}

@@ -304,6 +304,7 @@ private Q_SLOTS:
     void countOfThePageBar();
     void itemsOfTheListAreReplaced();
     void currentIndexOfTheComboBoxIsItsOwn();
+    void entriesInAnotherLanguageKeepTheChoice();
     void currentIndexOfThePageWidget();
     void fontIsSetThroughTheClass();
     void proportionSplitsTheWidth();
@@ -628,6 +629,34 @@ void tst_properties::currentIndexOfTheComboBoxIsItsOwn()
     QVERIFY(field.setProperty("items", texts));
     QVERIFY(field.setProperty("currentIndex", 1));
     QCOMPARE(field.currentText(), QString::fromLatin1("Auto"));
+}
+
+void tst_properties::entriesInAnotherLanguageKeepTheChoice()
+{
+    const QStringList english = QString::fromLatin1("Off,Auto,Manual").split(QLatin1Char(','));
+    const QStringList german = QString::fromLatin1("Aus,Auto,Hand").split(QLatin1Char(','));
+    CComboBox box;
+    box.setItems(english);
+    box.setCurrentIndex(2);
+    box.setItems(german);
+    QCOMPARE(box.currentIndex(), 2);
+    QCOMPARE(box.currentText(), QString::fromLatin1("Hand"));
+    box.setItems(german.mid(0, 2));
+    QCOMPARE(box.currentIndex(), 0);
+    CPageListWidget list;
+    list.setItems(english);
+    list.setCurrentIndex(1);
+    list.setItems(german);
+    QCOMPARE(list.currentIndex(), 1);
+    CParmComboBox field;
+    QVERIFY(field.setProperty("currentIndex", 2)); // as forms do, before the entries
+    QCOMPARE(field.currentIndex(), 0);
+    field.setItems(english);
+    QCOMPARE(field.currentIndex(), 2);
+    field.setCurrentIndex(1);
+    field.setItems(german);
+    QCOMPARE(field.currentIndex(), 1);
+    QVERIFY(field.dynamicPropertyNames().isEmpty());
 }
 
 void tst_properties::currentIndexOfThePageWidget()
