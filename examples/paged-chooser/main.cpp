@@ -89,6 +89,8 @@ CPushButton* Chooser::createButton(const QString& program)
 {
     CPushButton* const button = new CPushButton;
     button->setStyle(CPushButton::DefaultStyle, true);
+    button->setBackgroundColor(QColor()); // the page shows at the round corners
+    button->setAutoFillBackground(false);
     button->setText(program);
     connect(button, SIGNAL(clicked()), this, SLOT(choose()));
     return button;

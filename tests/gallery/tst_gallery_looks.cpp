@@ -8,6 +8,7 @@
 #include "parm/parmlineedit.h"
 #include "support/colors.h"
 #include "support/testing.h"
+#include "widgets/toptitlearea.h"
 
 namespace
 {
@@ -41,6 +42,7 @@ private Q_SLOTS:
     void screensStandOnAGrid_data();
     void screensStandOnAGrid();
     void rowsOfParametersAreFarApart();
+    void titleTakesOverANewFont();
     void cleanupTestCase();
 
 private:
@@ -235,6 +237,17 @@ void tst_gallery_looks::rowsOfParametersAreFarApart()
     QCOMPARE(fields.at(1)->y() - fields.at(0)->y(), rowPitch);
     QCOMPARE(fields.at(2)->y() - fields.at(1)->y(), rowPitch);
     QCOMPARE(fields.at(0)->mapTo(m_panel, QPoint(0, 0)).y() % grid, 0);
+}
+
+void tst_gallery_looks::titleTakesOverANewFont()
+{
+    const testing::TemporaryFolder folder;
+    Panel panel(folder.write(QLatin1String("style.xml"), testing::contentOf(styleFile())));
+    CTopTitleArea* title = panel.findChild<CTopTitleArea*>();
+    QCOMPARE(title->font().family(), QString::fromLatin1("Arial"));
+    panel.restyle(QLatin1String("Liberation Serif"));
+    QCOMPARE(title->font().family(), QString::fromLatin1("Liberation Serif"));
+    QVERIFY(CWidgetStyle::initialize(styleFile()));
 }
 
 QTEST_MAIN(tst_gallery_looks)
