@@ -1,7 +1,8 @@
+#include "resources/artwork/picturefile.h"
 #include "support/colors.h"
 #include "support/testing.h"
 
-#include <QCryptographicHash>
+#include <QBuffer>
 #include <QSet>
 
 namespace
@@ -23,27 +24,6 @@ QImage cellOf(const char* name, int cell, int width)
 }
 
 // ---- hashes
-
-void append(QByteArray* bytes, quint32 value)
-{
-    for (int shift = 24; shift >= 0; shift -= 8)
-        bytes->append(static_cast<char>(value >> shift));
-}
-
-/// As the program that draws the pictures computes it: size and pixels, row by row.
-QByteArray hashOf(const QImage& image)
-{
-    QByteArray bytes;
-    append(&bytes, static_cast<quint32>(image.width()));
-    append(&bytes, static_cast<quint32>(image.height()));
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QRgb pixel = image.pixel(x, y);
-            append(&bytes, qAlpha(pixel) == 0 ? 0 : pixel);
-        }
-    }
-    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex();
-}
 
 QList<QByteArray> hashLines()
 {
@@ -269,6 +249,9 @@ class tst_pictures : public QObject
 private Q_SLOTS:
     void pixelsAreThoseThatWereDrawn();
     void filesHaveAPaletteWhereItHoldsAllColors();
+    void paletteLosesNoPixel_data();
+    void paletteLosesNoPixel();
+    void hashIsThatOfThePixels();
     void colorsHaveTheirHue_data();
     void colorsHaveTheirHue();
     void arrowsPointTheirWay_data();
@@ -291,7 +274,7 @@ void tst_pictures::pixelsAreThoseThatWereDrawn()
     QCOMPARE(lines.size(), 73);
     for (int i = 0; i < lines.size(); ++i) {
         const QByteArray name = lines.at(i).mid(42);
-        QVERIFY2(hashOf(load(name.constData())) == lines.at(i).left(40), name.constData());
+        QVERIFY2(pixelHash(load(name.constData())) == lines.at(i).left(40), name.constData());
     }
 }
 
@@ -309,6 +292,53 @@ void tst_pictures::filesHaveAPaletteWhereItHoldsAllColors()
         }
         QVERIFY2((stored.depth() <= 8) == (colorsUsed.size() <= 256), name.constData());
     }
+}
+
+void tst_pictures::paletteLosesNoPixel_data()
+{
+    QTest::addColumn<int>("colorCount");
+    QTest::addColumn<bool>("opaque");
+    QTest::addColumn<int>("depth");
+    QTest::newRow("one colour") << 1 << true << 8;
+    QTest::newRow("256 opaque") << 256 << true << 8;
+    QTest::newRow("256 with alpha") << 256 << false << 8;
+    QTest::newRow("257 opaque") << 257 << true << 32;
+    QTest::newRow("257 with alpha") << 257 << false << 32;
+}
+
+void tst_pictures::paletteLosesNoPixel()
+{
+    QFETCH(int, colorCount);
+    QFETCH(bool, opaque);
+    QFETCH(int, depth);
+    QImage image(20, 20, QImage::Format_ARGB32);
+    for (int i = 0; i < 400; ++i) {
+        const int color = i % colorCount;
+        image.setPixel(i % 20, i / 20,
+                       qRgba(color & 0xFF, color >> 8, 7, opaque ? 255 : 255 - color / 2));
+    }
+    QBuffer file;
+    QVERIFY(file.open(QIODevice::ReadWrite));
+    QVERIFY(withPalette(image).save(&file, "PNG"));
+    const QImage stored = QImage::fromData(file.data(), "PNG");
+    QCOMPARE(stored.depth() <= 8, depth <= 8);
+    QVERIFY(stored.convertToFormat(QImage::Format_ARGB32) == image);
+}
+
+void tst_pictures::hashIsThatOfThePixels()
+{
+    QImage image(4, 2, QImage::Format_ARGB32);
+    image.fill(0xFF102030);
+    const QByteArray hash = pixelHash(image);
+    QCOMPARE(hash.size(), 40);
+    QCOMPARE(pixelHash(withPalette(image)), hash);
+    QVERIFY(pixelHash(image.copy(0, 0, 2, 4)) != hash);
+    image.setPixel(3, 1, 0xFF102031);
+    QVERIFY(pixelHash(image) != hash);
+    image.setPixel(3, 1, 0x00FFFFFF);
+    const QByteArray transparent = pixelHash(image);
+    image.setPixel(3, 1, 0x00000000);
+    QCOMPARE(pixelHash(image), transparent);
 }
 
 void tst_pictures::colorsHaveTheirHue_data()
