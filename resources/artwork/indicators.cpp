@@ -60,9 +60,9 @@ void drawLamp(QPainter& painter, const QSize&, int state, int size)
 
 const int ClockFrames = 11; // one turn
 const qreal FullTurn = 360;
-const qreal ClockRadius = 14.5;
-const qreal ClockTrackRadius = 13.25;
-const qreal ClockTrackWidth = 2;
+const qreal ClockRadius = 14.875;
+const qreal ClockTrackRadius = 12.875;
+const qreal ClockTrackWidth = 1.75;
 const qreal ClockArcLength = 110; // degrees, up to its head, which starts at the top
 const QRgb ClockDial = Palette::Bar;
 const QRgb ClockTrack = 0xff4a4e64;

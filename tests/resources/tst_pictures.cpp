@@ -238,7 +238,7 @@ const struct Sign {
     // clang-format on
 };
 
-const int leastInk = 3; // percent of a cell
+const int leastInk = 2; // percent of a cell
 
 } // namespace
 
