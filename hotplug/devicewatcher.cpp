@@ -209,16 +209,16 @@ bool QDeviceWatcherPrivate::bindSocket()
 
     sockaddr_nl bound;
     socklen_t length = sizeof bound;
+    // Deliberate: the port that was really given is taken over, though nothing asks for it yet.
     if (getsockname(m_socket, reinterpret_cast<sockaddr*>(&bound), &length) == 0)
         address.nl_pid = bound.nl_pid;
     return true;
 }
 
-/// Makes the notifier of the socket, disabled. The one before, of a closed socket, is deleted: of
-/// many starts and stops only the last notifier remains.
+/// Makes the notifier of the socket, disabled. The one before, of a closed socket, stays a disabled
+/// child: it may be the one that is just telling of a datagram.
 void QDeviceWatcherPrivate::makeNotifier()
 {
-    delete m_notifier;
     m_notifier = new QSocketNotifier(m_socket, QSocketNotifier::Read, this);
     connect(m_notifier, SIGNAL(activated(int)), this, SLOT(parseDeviceInfo()));
     m_notifier->setEnabled(false);
@@ -266,11 +266,14 @@ void QDeviceWatcherPrivate::parseDeviceInfo()
         m_buffer.close();
 }
 
-/// The next datagram, cut off at the size that is looked at; empty when there is none.
+/// The next datagram of the notifier's socket, cut off at the size that is looked at; empty when
+/// there is none, and when the socket is closed: its number may be another file's by now.
 QByteArray QDeviceWatcherPrivate::readDatagram() const
 {
+    if (m_socket == -1)
+        return QByteArray();
     char bytes[uevent::MaxDatagramSize] = {0};
-    const ssize_t count = read(m_socket, bytes, sizeof bytes);
+    const ssize_t count = read(static_cast<int>(m_notifier->socket()), bytes, sizeof bytes);
     return count > 0 ? QByteArray(bytes, static_cast<int>(count)) : QByteArray();
 }
 
@@ -289,15 +292,17 @@ void QDeviceWatcherPrivate::parseLine(const QByteArray& line)
 }
 
 /// Posts an event of its own to each receiver, in the order in which they were added, and drops
-/// those that are gone.
+/// those that are gone. No guarded pointer is copied meanwhile: another thread may be destroying
+/// the receiver, and with Qt 4 a copy enters itself in its receiver.
 void QDeviceWatcherPrivate::postEvents(QDeviceChangeEvent::Action action, const QString& dev)
 {
-    QList<Receiver> living;
-    for (int i = 0; i < m_eventReceivers.size(); ++i) {
+    int i = 0;
+    while (i < m_eventReceivers.size()) {
         if (ReceiverBarrier::instance()->post(m_eventReceivers.at(i), action, dev))
-            living.append(m_eventReceivers.at(i));
+            ++i;
+        else
+            m_eventReceivers.removeAt(i);
     }
-    m_eventReceivers = living;
 }
 
 /// Lets the watcher emit deviceAdded() with \a dev.

@@ -88,6 +88,7 @@ CHotplugWatcher::CHotplugWatcher(QObject* parent) : QThread(parent), m_watcher(0
     start(QThread::InheritPriority);
     detectDevice();
     m_watcher = new QDeviceWatcher(this);
+    // Deliberate: this object handles none of the events; an application's event filter sees them.
     m_watcher->appendEventReceiver(this);
     connect(m_watcher, SIGNAL(deviceAdded(QString)), SLOT(addDevice(QString)),
             Qt::DirectConnection);

@@ -266,7 +266,7 @@ void tst_devicewatcher_reading::slotsMayStopAndStart()
     for (int i = 1; i <= 20; ++i) {
         QCOMPARE(ueventSockets().size(), 1);
         FakeKernel kernel(ueventSockets().at(0));
-        QVERIFY(kernel.send("change@/x")); // deletes the notifier that is just telling it
+        QVERIFY(kernel.send("change@/x")); // the notifier that tells it is replaced
         QVERIFY(testing::waitUntil([&] { return log.entries.contains("changed:change@/x"); }));
         log.entries.clear();
         QVERIFY(watcher.isRunning());

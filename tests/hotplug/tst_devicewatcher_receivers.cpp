@@ -91,6 +91,7 @@ private Q_SLOTS:
     void nullReceiverIsHarmless();
     void withoutReceiversThereIsOnlyTheSignal();
     void destroyedReceiverIsDropped();
+    void orderOutlivesTheDestroyed();
     void receiverDestroyedWithEventUnderWay();
     void receiverDestroyedByASlot();
     void receiverDestroysItself();
@@ -191,6 +192,31 @@ void tst_devicewatcher_receivers::destroyedReceiverIsDropped()
     parser.parseLine("remove@/x");
     QCoreApplication::sendPostedEvents();
     QCOMPARE(log.join(QLatin1String(" ")), QString::fromLatin1("last:0:add@/x last:1:remove@/x"));
+}
+
+void tst_devicewatcher_receivers::orderOutlivesTheDestroyed()
+{
+    QDeviceWatcher watcher;
+    QDeviceWatcherPrivate parser(&watcher);
+    QStringList log;
+    QList<Receiver*> receivers;
+    for (int i = 0; i < 9; ++i) {
+        receivers.append(new Receiver(QString::number(i), &log));
+        parser.appendEventReceiver(receivers.last());
+    }
+    const int destroyed[] = {0, 3, 4, 5, 8};
+    for (size_t i = 0; i < sizeof destroyed / sizeof destroyed[0]; ++i)
+        delete receivers.at(destroyed[i]);
+    for (int round = 0; round < 2; ++round) {
+        parser.parseLine("add@/x");
+        QCoreApplication::sendPostedEvents();
+        QCOMPARE(log.join(QLatin1String(" ")),
+                 QString::fromLatin1("1:0:add@/x 2:0:add@/x 6:0:add@/x 7:0:add@/x"));
+        log.clear();
+    }
+    const int living[] = {1, 2, 6, 7};
+    for (size_t i = 0; i < sizeof living / sizeof living[0]; ++i)
+        delete receivers.at(living[i]);
 }
 
 void tst_devicewatcher_receivers::receiverDestroyedWithEventUnderWay()

@@ -110,7 +110,8 @@ private Q_SLOTS:
     void startAndStop();
     void startWhileRunningStopsFirst();
     void destructionWhileRunning();
-    void manyStartsAndStopsLeaveNothing();
+    void manyStartsAndStopsLeaveDisabledNotifiers();
+    void closedSocketIsNotRead();
     void secondWatcherOfTheProcess();
     void noDescriptorsLeft();
     void noPermission();
@@ -242,21 +243,53 @@ void tst_devicewatcher_socket::destructionWhileRunning()
     QCOMPARE(messages.warnings(), QStringList());
 }
 
-void tst_devicewatcher_socket::manyStartsAndStopsLeaveNothing()
+void tst_devicewatcher_socket::manyStartsAndStopsLeaveDisabledNotifiers()
 {
     testing::Messages messages;
     const int before = testing::openDescriptors();
     QDeviceWatcher watcher;
-    QDeviceWatcherPrivate socket(&watcher);
+    QScopedPointer<QDeviceWatcherPrivate> socket(new QDeviceWatcherPrivate(&watcher));
     for (int i = 0; i < 1000; ++i) {
-        QVERIFY(socket.start());
+        QVERIFY(socket->start());
         if (i % 10 == 0)
             QCoreApplication::processEvents();
-        QVERIFY(socket.stop());
+        QVERIFY(socket->stop());
     }
     QCOMPARE(testing::openDescriptors(), before);
-    QVERIFY(socket.findChildren<QSocketNotifier*>().size() <= 1);
+    const QList<QSocketNotifier*> notifiers = socket->findChildren<QSocketNotifier*>();
+    QCOMPARE(static_cast<int>(notifiers.size()), 1000);
+    for (int i = 0; i < notifiers.size(); ++i)
+        QVERIFY(!notifiers.at(i)->isEnabled());
+    const QPointer<QSocketNotifier> first(notifiers.first());
+    const QPointer<QSocketNotifier> last(notifiers.last());
+    socket.reset();
+    QVERIFY(!first);
+    QVERIFY(!last);
     QCOMPARE(messages.warnings(), QStringList());
+}
+
+/// The number of a closed socket may be that of another file by then.
+void tst_devicewatcher_socket::closedSocketIsNotRead()
+{
+    QDeviceWatcher watcher;
+    QDeviceWatcherPrivate socket(&watcher);
+    testing::SignalLog log(&watcher);
+    socket.parseDeviceInfo();
+    QVERIFY(socket.start());
+    const int number = ueventSockets().at(0);
+    QVERIFY(socket.stop());
+    int pipeEnds[2];
+    QCOMPARE(pipe(pipeEnds), 0);
+    QCOMPARE(dup2(pipeEnds[0], number), number);
+    QCOMPARE(static_cast<int>(write(pipeEnds[1], "add@/x", 6)), 6);
+    socket.parseDeviceInfo();
+    char left[8];
+    QCOMPARE(static_cast<int>(read(number, left, sizeof left)), 6);
+    QCOMPARE(log.entries, QStringList());
+    close(pipeEnds[1]);
+    close(number);
+    if (pipeEnds[0] != number)
+        close(pipeEnds[0]);
 }
 
 void tst_devicewatcher_socket::secondWatcherOfTheProcess()

@@ -4,6 +4,8 @@
 #include "hotplug/hotplugtesting.h"
 #include "style/qtcompat.h"
 
+#include <unistd.h>
+
 using testing::hasChildProcesses;
 using testing::registry;
 using testing::setAll;
@@ -27,6 +29,28 @@ public Q_SLOTS:
     void work()
     {
         worked.ref();
+    }
+};
+
+/// Keeps the thread it lives in busy for a while.
+class SlowWorker : public QObject
+{
+    Q_OBJECT
+
+public:
+    SlowWorker() : begun(0), done(0)
+    {
+    }
+
+    QAtomicInt begun;
+    QAtomicInt done;
+
+public Q_SLOTS:
+    void work()
+    {
+        begun.ref();
+        usleep(200000);
+        done.ref();
     }
 };
 
@@ -114,10 +138,12 @@ private Q_SLOTS:
     void watcherIsAChildAndRuns();
     void notificationsReachTheRegistry();
     void registryIsSetBeforeOthersAreTold();
+    void watcherReceivesItsOwnEvents();
     void secondWatcherWarnsAndLives();
     void watcherInAnotherThread();
     void destructionInEveryState();
     void destructionByTheParent();
+    void destructionWaitsForTheThread();
 };
 
 void tst_hotplugwatcher::arrivalAndRemoval_data()
@@ -276,6 +302,17 @@ void tst_hotplugwatcher::registryIsSetBeforeOthersAreTold()
     QCOMPARE(reader.seen, QStringList(QLatin1String("k")));
 }
 
+void tst_hotplugwatcher::watcherReceivesItsOwnEvents()
+{
+    CHotplugWatcher watcher;
+    testing::EventCounter events(&watcher, QDeviceChangeEvent::registeredType());
+    testing::FakeKernel kernel(testing::ueventSockets().at(0));
+    QVERIFY(kernel.send("change@/x"));
+    QVERIFY(testing::waitUntil([&] { return events.count() == 1; }));
+    QVERIFY(kernel.send("remove@/x"));
+    QVERIFY(testing::waitUntil([&] { return events.count() == 2; }));
+}
+
 void tst_hotplugwatcher::secondWatcherWarnsAndLives()
 {
     CHotplugWatcher first;
@@ -335,6 +372,17 @@ void tst_hotplugwatcher::destructionByTheParent()
     QCOMPARE(testing::ueventSockets().size(), 0);
     QVERIFY(!hasChildProcesses());
     QCOMPARE(messages.warnings(), QStringList());
+}
+
+void tst_hotplugwatcher::destructionWaitsForTheThread()
+{
+    SlowWorker worker;
+    CHotplugWatcher* watcher = new CHotplugWatcher;
+    worker.moveToThread(watcher);
+    QVERIFY(QMetaObject::invokeMethod(&worker, "work", Qt::QueuedConnection));
+    QVERIFY(testing::waitUntil([&] { return worker.begun.fetchAndAddOrdered(0) == 1; }));
+    delete watcher;
+    QCOMPARE(worker.done.fetchAndAddOrdered(0), 1);
 }
 
 QTEST_MAIN(tst_hotplugwatcher)
