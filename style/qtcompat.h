@@ -4,6 +4,7 @@
 // What differs between Qt 4.8, 5 and 6, each difference as one small function or name. No other
 // file of the library asks for the version of Qt.
 
+#include <QByteArray>
 #include <QColor>
 #include <QComboBox>
 #include <QFontMetrics>
@@ -21,6 +22,13 @@
 #else
 #include <QApplication>
 #include <QDesktopWidget>
+#endif
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+#include <QStringDecoder>
+#else
+#include <QBuffer>
+#include <QXmlInputSource>
 #endif
 
 namespace qtcompat
@@ -118,6 +126,68 @@ inline const char* comboTextActivatedSignal()
     return SIGNAL(activated(QString));
 #endif
 }
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+
+/// The encoding that the XML declaration at the beginning of \a text names; empty when there is
+/// none.
+inline QByteArray declaredEncoding(const QString& text)
+{
+    const QString declaration = text.left(text.indexOf(QLatin1Char('>')) + 1);
+    const qsizetype name = declaration.indexOf(QLatin1String("encoding"));
+    if (!declaration.startsWith(QLatin1String("<?xml")) || name < 0)
+        return QByteArray();
+    const QString value = declaration.mid(name);
+    const qsizetype single = value.indexOf(QLatin1Char('\''));
+    const qsizetype twofold = value.indexOf(QLatin1Char('"'));
+    const bool isSingle = twofold < 0 || (single >= 0 && single < twofold);
+    return value.section(QLatin1Char(isSingle ? '\'' : '"'), 1, 1).toLatin1();
+}
+
+/// The text of the XML document \a content, decoded as QDomDocument does it: what the declaration
+/// names holds for what follows the declaration.
+inline QString xmlText(const QByteArray& content)
+{
+    const auto marked = QStringConverter::encodingForData(content, u'<');
+    QStringDecoder decoder(marked.value_or(QStringConverter::Utf8));
+    QString text = decoder(content);
+    QStringDecoder declared(declaredEncoding(text).constData());
+    if (!declared.isValid() || qstrcmp(declared.name(), decoder.name()) == 0)
+        return text;
+    text.truncate(text.indexOf(QLatin1String("?>")) + 2);
+    const QString whole = declared(content);
+    return text + whole.mid(text.size());
+}
+
+#else
+
+#if QT_VERSION >= QT_VERSION_CHECK(5, 15, 0)
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
+#endif
+
+/// The text of the XML document \a content, decoded as QDomDocument does it: by the very class, a
+/// piece at a time.
+inline QString xmlText(const QByteArray& content)
+{
+    const int pieceSize = 1024;
+    QBuffer buffer;
+    buffer.setData(content);
+    QXmlInputSource source(&buffer);
+    QString text;
+    text.reserve(content.size());
+    for (int read = 0; read < content.size(); read += pieceSize) {
+        text += source.data();
+        source.fetchData();
+    }
+    return text;
+}
+
+#if QT_VERSION >= QT_VERSION_CHECK(5, 15, 0)
+QT_WARNING_POP
+#endif
+
+#endif
 
 } // namespace qtcompat
 

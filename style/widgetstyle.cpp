@@ -1,13 +1,13 @@
 #include "style/widgetstyle.h"
 
 #include "style/qtcompat.h"
+#include "style/xmlguard_p.h"
 
 #include <QDomDocument>
 #include <QFile>
 #include <QFileInfo>
 #include <QMap>
 #include <QTextStream>
-#include <QXmlStreamReader>
 
 namespace
 {
@@ -20,15 +20,6 @@ const char rewriteWriteFailed[] = "setWidgetStyle: [ widget-style.xml ]: can not
 
 const int defaultPixelSize = 9;
 const int rewriteIndent = 4;
-
-// QDom takes a document down level by level on the stack. A style file needs five levels; what
-// nests deeper than this is refused before it can exhaust the stack of a small device.
-const int maximumDepth = 20000;
-
-// A style file needs no entities of its own either. Qt bounds those that are made of others; how
-// often one is used is bounded here, by the characters that all uses together may give.
-const int nestedEntityLimit = 4096;
-const qint64 maximumExpansion = 4 * 1024 * 1024;
 
 const struct {
     const char* element;
@@ -60,36 +51,11 @@ bool readFile(const QString& path, QByteArray* content)
     return true;
 }
 
-/// The most that the entities of the document type in \a reader could make out of \a content.
-qint64 expandedSize(const QXmlStreamReader& reader, const QByteArray& content)
-{
-    int longest = nestedEntityLimit;
-    const QXmlStreamEntityDeclarations entities = reader.entityDeclarations();
-    for (int i = 0; i < entities.size(); ++i)
-        longest = qMax(longest, static_cast<int>(entities.at(i).value().size()));
-    return entities.isEmpty() ? 0 : static_cast<qint64>(content.count('&')) * longest;
-}
-
-/// Whether a document tree of \a content may be built: it must not exhaust stack or memory. What
-/// else is wrong with it is left for the tree's parser to find.
+/// Whether the tree of \a content can be built. What else is wrong with it, the tree's parser
+/// finds.
 bool isHarmless(const QByteArray& content)
 {
-    QXmlStreamReader reader(content);
-    int depth = 0;
-    bool inProlog = true;
-    while (!reader.atEnd()) {
-        const QXmlStreamReader::TokenType token = reader.readNext();
-        if (token == QXmlStreamReader::DTD && expandedSize(reader, content) > maximumExpansion)
-            return false;
-        if (token == QXmlStreamReader::StartElement) {
-            inProlog = false;
-            if (++depth > maximumDepth)
-                return false;
-        } else if (token == QXmlStreamReader::EndElement) {
-            --depth;
-        }
-    }
-    return !inProlog;
+    return xmlguard::isHarmless(qtcompat::xmlText(content));
 }
 
 bool parse(const QByteArray& content, QDomDocument* document)

@@ -132,6 +132,7 @@ private Q_SLOTS:
     void fieldsOfGrandchildrenDoNotCount();
     void widgetWithoutFieldsIsStored();
     void emptyFieldHasDefaultFontAndInvalidColors();
+    void instructionsOfThatNameAreSkipped();
     void laterOfEqualNamesWins();
     void absentNameIsStoredUnderTheEmptyOne();
     void secondFileAddsAndReplaces();
@@ -336,6 +337,19 @@ void tst_widgetstyle::emptyFieldHasDefaultFontAndInvalidColors()
     QVERIFY(!styles.at(0).reservedColor.isValid());
 }
 
+void tst_widgetstyle::instructionsOfThatNameAreSkipped()
+{
+    QVERIFY(read(file(widget("Before", "") + "<?widget name=\"Not\"?>widget<!--widget-->" +
+                      "<![CDATA[widget]]>" + widget("Behind", ""))));
+    bool ok = false;
+    entry("Before", &ok);
+    QVERIFY(ok);
+    entry("Behind", &ok);
+    QVERIFY(ok);
+    entry("Not", &ok);
+    QVERIFY(!ok);
+}
+
 void tst_widgetstyle::laterOfEqualNamesWins()
 {
     QVERIFY(read(file("<widget type=\"1\" name=\"Twice\"><FieldAll/></widget>"
@@ -439,6 +453,7 @@ void tst_widgetstyle::getStyleOfNullElement()
     bool ok = true;
     const Style style = getStyle(&ok, Style::FieldValue, QDomElement());
     QVERIFY(!ok);
+    QCOMPARE(style.field, Style::FieldName); // not the one asked for
     QVERIFY(isDefault(style.font));
     QVERIFY(!style.foreground.isValid());
     QVERIFY(!style.background.isValid());

@@ -50,6 +50,13 @@ QStringList families(const QString& path)
     return list;
 }
 
+/// A style file with \a count fonts, without any indentation.
+QByteArray dense(int count)
+{
+    return "<root>" + QByteArray("<widget><FieldAll><font/></FieldAll></widget>").repeated(count) +
+           "</root>";
+}
+
 } // namespace
 
 class tst_widgetstyle_rewrite : public QObject
@@ -69,7 +76,10 @@ private Q_SLOTS:
     void unreadableXml();
     void whatCouldNotBeReadAgain_data();
     void whatCouldNotBeReadAgain();
+    void endOfTheDocumentAsACharacter();
     void readOnlyFile();
+    void shorterFamilyLeavesNothingOfTheLonger();
+    void fullDiskPutsTheOldContentBack_data();
     void fullDiskPutsTheOldContentBack();
     void setStyleOfElements();
 };
@@ -230,6 +240,23 @@ void tst_widgetstyle_rewrite::whatCouldNotBeReadAgain_data()
     QTest::newRow("above all planes") << QByteArray("&#x110000;");
 }
 
+/// With some versions of Qt this is a style file like any other, but one that is never rewritten.
+void tst_widgetstyle_rewrite::endOfTheDocumentAsACharacter()
+{
+    const TemporaryFolder folder;
+    const QByteArray content = "<root><widget type=\"5\" name=\"a&#xFFFE;b\"><FieldAll><font/>"
+                               "</FieldAll></widget></root>";
+    const QString path = folder.write(QLatin1String("style.xml"), content);
+    Messages messages;
+    QDomDocument document;
+    QCOMPARE(CWidgetStyle::initialize(path), document.setContent(content));
+    messages.clear();
+    QVERIFY(!CWidgetStyle::setWidgetStyle(path, family("Courier")));
+    QCOMPARE(messages.debugs(), QStringList() << QLatin1String(
+                                    "setWidgetStyle: [ widget-style.xml ]: can not parse."));
+    QCOMPARE(contentOf(path), content);
+}
+
 /// The parser of some versions of Qt lets such characters in; written as they are, they would make
 /// the file one that no panel can start with.
 void tst_widgetstyle_rewrite::whatCouldNotBeReadAgain()
@@ -270,17 +297,39 @@ void tst_widgetstyle_rewrite::readOnlyFile()
     QCOMPARE(contentOf(path), QByteArray(styled));
 }
 
+void tst_widgetstyle_rewrite::shorterFamilyLeavesNothingOfTheLonger()
+{
+    const TemporaryFolder folder;
+    const QString path = folder.write(QLatin1String("style.xml"), styled);
+    QVERIFY(CWidgetStyle::setWidgetStyle(path, family("Courier")));
+    const QByteArray wanted = contentOf(path);
+    const QByteArray longName(2000, 'x');
+    QVERIFY(CWidgetStyle::setWidgetStyle(path, family(longName.constData())));
+    QVERIFY(contentOf(path).size() > wanted.size() + 2000);
+    QVERIFY(CWidgetStyle::setWidgetStyle(path, family("Courier")));
+    QCOMPARE(contentOf(path), wanted);
+    QVERIFY(CWidgetStyle::initialize(path));
+}
+
+void tst_widgetstyle_rewrite::fullDiskPutsTheOldContentBack_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<int>("free"); // bytes of the disk that nothing else takes
+    QTest::newRow("beyond the file's buffer") << dense(400) << 20480;
+    QTest::newRow("within the file's buffer") << dense(80) << 4096;
+}
+
+/// The file is small enough for the disk, the indented one is not.
 void tst_widgetstyle_rewrite::fullDiskPutsTheOldContentBack()
 {
-    // The file is small enough for the disk, the indented one is not.
-    QByteArray content = "<root>";
-    for (int i = 0; i < 400; ++i)
-        content += "<widget><FieldAll><font/></FieldAll></widget>";
-    content += "</root>";
+    QFETCH(QByteArray, content);
+    QFETCH(int, free);
+    QVERIFY(content.size() <= free);
     const TemporaryFolder folder;
     const QByteArray disk = QFile::encodeName(folder.path());
     if (geteuid() != 0 || system("mount -t tmpfs -o size=20k none '" + disk + "' 2>/dev/null") != 0)
         CWIDGET_SKIP("making a small disk needs root");
+    folder.write(QLatin1String("filler"), QByteArray(20480 - free, 'x'));
     const QString path = folder.write(QLatin1String("style.xml"), content);
     const bool rewritten = CWidgetStyle::setWidgetStyle(path, family("Courier"));
     const QByteArray left = contentOf(path);
