@@ -2,8 +2,8 @@
 # Checks that every source stands as .clang-format wants it. Run in the project's root.
 set -euo pipefail
 clang_format=${1:?the clang-format to use}
-mapfile -t sources < <(find style widgets pages parm keypad hotplug examples designer tests \
-    benchmarks fuzz tools resources/artwork -name '*.h' -o -name '*.cpp' | sort)
+mapfile -t sources < <(find . \( -path './build*' -o -path ./debian -o -path ./.git \) -prune -o \
+    \( -name '*.h' -o -name '*.cpp' \) -print | sort)
 if [ ${#sources[@]} -lt 30 ]; then
     echo "only ${#sources[@]} sources found: this is not the project's root" >&2
     exit 1
