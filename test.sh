@@ -2,7 +2,7 @@
 # Installs what is missing, builds everything and runs every test.
 #
 #   ./test.sh                  Qt 5
-#   ./test.sh --qt 6           another generation of Qt
+#   ./test.sh --qt 6           another generation of Qt; for 4, QT4_DIR must name the folder of Qt 4.8
 #   ./test.sh --sanitize       with the Address, UndefinedBehavior and Leak sanitizers
 #   ./test.sh --threads        the tests with several threads, with the Thread sanitizer (Qt 5)
 #   ./test.sh --bench          the benchmarks
@@ -34,16 +34,25 @@ if [ "$threads" = ON ] && [ "$qt" != 5 ]; then
     exit 2
 fi
 
+qt_options=()
+if [ "$qt" = 4 ]; then
+    if [ ! -x "${QT4_DIR:-}/bin/qmake" ]; then
+        echo "Qt 4.8 is in no package: set QT4_DIR to the folder that has its bin/qmake" >&2
+        exit 2
+    fi
+    qt_options=(-DQT_QMAKE_EXECUTABLE="$QT4_DIR/bin/qmake")
+fi
+
 test_packages="clang-format-14 xvfb openbox xdotool x11-utils usbutils util-linux"
 # shellcheck disable=SC2046,SC2086
 cwidget_install $(cwidget_build_packages "$qt") $(cwidget_run_packages "$qt") \
     $(cwidget_designer_packages "$qt") $test_packages
 if [ -n "$bench" ]; then cwidget_install libbenchmark-dev; fi
-if [ -n "$fuzz" ]; then cwidget_install clang-14 libclang-rt-14-dev; fi
+if [ -n "$fuzz" ]; then cwidget_install clang-14 libclang-rt-14-dev llvm-14; fi
 
 build=build/test-qt$qt
 options=(-DCWIDGET_QT_MAJOR="$qt" -DCWIDGET_WERROR=ON -DCWIDGET_SANITIZE="$sanitize"
-         -DCWIDGET_SANITIZE_THREADS="$threads")
+         -DCWIDGET_SANITIZE_THREADS="$threads" "${qt_options[@]}")
 targets=()
 if [ "$sanitize" = ON ]; then
     build+=-sanitize

@@ -80,6 +80,49 @@ inline int textWidth(const QFontMetrics& metrics, const QString& text)
 #endif
 }
 
+/// All widgets there are but the desktop, which Qt 4 counts among them.
+inline QWidgetList allWidgets()
+{
+    QWidgetList widgets = QApplication::allWidgets();
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+    for (int i = static_cast<int>(widgets.size()) - 1; i >= 0; --i) {
+        if (widgets.at(i)->windowType() == Qt::Desktop)
+            widgets.removeAt(i);
+    }
+#endif
+    return widgets;
+}
+
+/// By how much a channel of a colour may differ between two pictures. Qt 4 on X11 rounds colours
+/// that have a share of transparency differently than the raster engine does.
+inline int colorTolerance()
+{
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+    return 1;
+#else
+    return 0;
+#endif
+}
+
+/// Whether a window that is placed beyond the edge of the screen is moved onto it.
+inline bool movesWindowsOntoTheScreen()
+{
+    return QT_VERSION < QT_VERSION_CHECK(5, 0, 0);
+}
+
+/// Whether the row of a combo box may change inside the signal of such a change. Qt 4's own box
+/// then goes on with an index that is not valid any more.
+inline bool mayNestRowChanges()
+{
+    return QT_VERSION >= QT_VERSION_CHECK(5, 0, 0);
+}
+
+/// How long a process that could not be started may remain as a child, in milliseconds.
+inline int reapingTime()
+{
+    return QT_VERSION < QT_VERSION_CHECK(5, 0, 0) ? 1000 : 0;
+}
+
 /// The area of the primary screen.
 inline QRect screenGeometry()
 {
@@ -116,6 +159,27 @@ inline QImage grabScreen()
 }
 
 } // namespace testcompat
+
+#if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)
+
+/// Lets the event loop run until \a condition holds, for five seconds at most.
+#define CWIDGET_WAIT_UNTIL(condition)                                                              \
+    for (int waited = 0; waited < 500 && !(condition); ++waited)                                   \
+    QTest::qWait(10)
+
+#define QTRY_VERIFY(condition)                                                                     \
+    do {                                                                                           \
+        CWIDGET_WAIT_UNTIL(condition);                                                             \
+        QVERIFY(condition);                                                                        \
+    } while (false)
+
+#define QTRY_COMPARE(actual, expected)                                                             \
+    do {                                                                                           \
+        CWIDGET_WAIT_UNTIL((actual) == (expected));                                                \
+        QCOMPARE(actual, expected);                                                                \
+    } while (false)
+
+#endif
 
 /// Skips the running test, and says why.
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)

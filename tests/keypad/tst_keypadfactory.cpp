@@ -118,7 +118,7 @@ private Q_SLOTS:
 void tst_keypadfactory::cleanup()
 {
     testing::deleteDeferred();
-    QCOMPARE(QApplication::allWidgets().size(), 0);
+    QCOMPARE(testcompat::allWidgets().size(), 0);
     waitUntilNoWindowIsActive();
 }
 
@@ -277,7 +277,8 @@ void tst_keypadfactory::centeredOnTheActiveWindow()
 {
     QFETCH(QRect, geometry);
     ActiveWindow window(geometry);
-    QCOMPARE(window.geometry(), geometry);
+    if (!testcompat::movesWindowsOntoTheScreen())
+        QCOMPARE(window.geometry(), geometry);
     QPoint place;
     QSize size;
     KeyPadUser user([&](CSoftKeyPad* dialog) {
@@ -286,7 +287,7 @@ void tst_keypadfactory::centeredOnTheActiveWindow()
     });
     CKeyPadFactory::accessKeyPad("Title", "", CKeyPadFactory::SKP_GENERAL);
     QCOMPARE(size, QSize(519, 390));
-    QCOMPARE(place, placeOver(geometry));
+    QCOMPARE(place, placeOver(window.geometry()));
 }
 
 void tst_keypadfactory::centeredOnTheActiveWindowAlsoWithAParentElsewhere()

@@ -73,7 +73,7 @@ private:
 void tst_keypadfactory_lifetime::cleanup()
 {
     testing::deleteDeferred();
-    QCOMPARE(QApplication::allWidgets().size(), 0);
+    QCOMPARE(testcompat::allWidgets().size(), 0);
 }
 
 /// Opens a keypad, types into it and closes it.
@@ -106,13 +106,13 @@ void tst_keypadfactory_lifetime::keypadsLeaveNothing()
     for (int i = 0; i < rounds; ++i) {
         if (i == warmUp) {
             memory = residentMemory();
-            widgets = QApplication::allWidgets().size();
+            widgets = testcompat::allWidgets().size();
             children = window.children().size();
         }
         roundOf(i, &window);
-        QCOMPARE(QApplication::allWidgets().size(), 1);
+        QCOMPARE(testcompat::allWidgets().size(), 1);
     }
-    QCOMPARE(QApplication::allWidgets().size(), widgets);
+    QCOMPARE(testcompat::allWidgets().size(), widgets);
     QCOMPARE(QApplication::topLevelWidgets().size(), 1);
     QCOMPARE(window.children().size(), children);
     QCOMPARE(children, 0);

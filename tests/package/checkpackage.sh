@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
-# checkpackage.sh BUILD CONSUMER CMAKE CXX STANDARD SANITIZE GENERATOR
+# checkpackage.sh BUILD CONSUMER CMAKE CXX STANDARD SANITIZE GENERATOR QMAKE
+#
+# QMAKE is that of Qt 4, and empty for the other ones.
 set -euo pipefail
-build=$1 consumer=$2 cmake=$3 cxx=$4 standard=$5 sanitize=$6 generator=$7
+build=$1 consumer=$2 cmake=$3 cxx=$4 standard=$5 sanitize=$6 generator=$7 qmake=$8
 
 stage=$(mktemp -d)
 trap 'rm -rf "$stage"' EXIT
@@ -41,7 +43,8 @@ test "$(wc -l <"$stage/all.cpp")" -ge 30
 
 echo "== a consumer with CMake"
 "$cmake" -S "$consumer" -B "$stage/cmake" -G "$generator" -DCMAKE_CXX_COMPILER="$cxx" \
-    -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_FLAGS="$flags" >"$stage/cmake.log" ||
+    -DCMAKE_PREFIX_PATH="$prefix" -DCMAKE_CXX_FLAGS="$flags" \
+    ${qmake:+"-DQT_QMAKE_EXECUTABLE=$qmake"} >"$stage/cmake.log" ||
     { cat "$stage/cmake.log"; exit 1; }
 "$cmake" --build "$stage/cmake" >"$stage/build.log" || { cat "$stage/build.log"; exit 1; }
 "$stage/cmake/consumer" "$(cat "$stage/cmake/stylefile")"

@@ -63,6 +63,7 @@ class tst_combobox_nesting : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase();
     void innerChangeIsToldWhenItReturns();
     void innerChangeOfAnInnerChange();
     void innerSlotIsToldWhenItReturns_data();
@@ -81,6 +82,12 @@ private Q_SLOTS:
     void touchWithANewTable();
     void touchWithARestriction();
 };
+
+void tst_combobox_nesting::initTestCase()
+{
+    if (!testcompat::mayNestRowChanges())
+        CWIDGET_SKIP("Qt's own combo box of this version does not survive such changes");
+}
 
 void tst_combobox_nesting::innerChangeIsToldWhenItReturns()
 {

@@ -26,6 +26,18 @@ QImage canvas(const QSize& size, const QColor& ground)
     return image;
 }
 
+namespace
+{
+
+bool isSameColor(QRgb a, QRgb b)
+{
+    const int tolerance = testcompat::colorTolerance();
+    return qAbs(qRed(a) - qRed(b)) <= tolerance && qAbs(qGreen(a) - qGreen(b)) <= tolerance &&
+           qAbs(qBlue(a) - qBlue(b)) <= tolerance && qAbs(qAlpha(a) - qAlpha(b)) <= tolerance;
+}
+
+} // namespace
+
 QString difference(const QImage& actual, const QImage& expected)
 {
     if (actual.size() != expected.size())
@@ -38,7 +50,7 @@ QString difference(const QImage& actual, const QImage& expected)
     const QImage b = expected.convertToFormat(QImage::Format_ARGB32);
     for (int y = 0; y < a.height(); ++y) {
         for (int x = 0; x < a.width(); ++x) {
-            if (a.pixel(x, y) == b.pixel(x, y))
+            if (isSameColor(a.pixel(x, y), b.pixel(x, y)))
                 continue;
             const QString base = QString::fromLatin1(QTest::currentTestFunction());
             a.save(base + QLatin1String("-actual.png"));

@@ -76,7 +76,7 @@ template <typename Class>
 int livingWidgets()
 {
     int count = 0;
-    const QWidgetList widgets = QApplication::allWidgets();
+    const QWidgetList widgets = testcompat::allWidgets();
     for (int i = 0; i < widgets.size(); ++i)
         count += qobject_cast<Class*>(widgets.at(i)) ? 1 : 0;
     return count;
