@@ -1,12 +1,16 @@
 // A style file with anything in it: it is read or refused, never half of it, and it never takes the
-// process down; what was read can be put on widgets and painted.
+// process down; what was read can be put on widgets and painted. What Qt's own tree accepts is
+// read, unless it costs too much, and no tree is deeper than it was judged beforehand.
 
 #include "fuzzing.h"
 
+#include "style/qtcompat.h"
 #include "style/widgetstyle.h"
+#include "style/xmlguard_p.h"
 #include "widgets/label.h"
 #include "widgets/pushbutton.h"
 
+#include <QDomDocument>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -65,6 +69,56 @@ bool isKnown()
     return ok && style.type == 1 && style.styles.size() == 1;
 }
 
+/// The node behind \a node in document order; \a depth follows the levels of elements.
+QDomNode nextNode(QDomNode node, qint64* depth)
+{
+    if (node.hasChildNodes()) {
+        *depth += node.firstChild().isElement() ? 1 : 0;
+        return node.firstChild();
+    }
+    while (!node.isNull()) {
+        *depth -= node.isElement() ? 1 : 0;
+        if (!node.nextSibling().isNull()) {
+            *depth += node.nextSibling().isElement() ? 1 : 0;
+            return node.nextSibling();
+        }
+        node = node.parentNode();
+    }
+    return node;
+}
+
+qint64 depthOf(const QDomDocument& document)
+{
+    qint64 depth = 0;
+    qint64 deepest = 0;
+    for (QDomNode node = document; !node.isNull(); node = nextNode(node, &depth))
+        deepest = qMax(deepest, depth);
+    return deepest;
+}
+
+/// Whether a tree of \a bytes, which is too dear to be a style file, can be built all the same:
+/// nothing that is short and declares nothing costs much.
+bool isShortAndPlain(const QByteArray& bytes, const QString& text)
+{
+    return bytes.size() < xmlguard::maximumDepth && !text.contains(QLatin1String("<!ENTITY")) &&
+           !text.contains(QLatin1String("<!ATTLIST"));
+}
+
+void compareWithTree(const QByteArray& bytes, bool read)
+{
+    const QString text = qtcompat::xmlText(bytes);
+    const xmlguard::Cost cost = xmlguard::cost(text);
+    const bool harmless = xmlguard::isHarmless(text);
+    if (!harmless && !isShortAndPlain(bytes, text)) {
+        fuzzing::require(!read, "what costs too much is refused");
+        return;
+    }
+    QDomDocument document;
+    const bool accepted = document.setContent(bytes);
+    fuzzing::require(accepted == read, "what the tree accepts is read");
+    fuzzing::require(depthOf(document) <= cost.depth, "no tree is deeper than it was judged");
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
@@ -77,6 +131,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const bool read = CWidgetStyle::initialize(path());
     fuzzing::require(content() == bytes, "reading leaves the file alone");
     fuzzing::require(read || isKnown(), "a refused file changes nothing");
+    compareWithTree(bytes, read);
     paintAll();
 
     QFont font(QString::fromLatin1("Courier"));
