@@ -21,8 +21,8 @@ struct Style {
 
     Field field;
     QFont font;           ///< a default font when the style file names none
-    QColor foreground;    ///< colour of texts; invalid: the widget keeps its own
-    QColor background;    ///< colour of the ground; invalid: the widget keeps its own
+    QColor foreground;    ///< colour of texts; left out, it is invalid and clears a field's own
+    QColor background;    ///< colour of the background; left out, it is invalid and clears it
     QColor reservedColor; ///< carried along; the style file does not fill it, no widget reads it
 };
 
