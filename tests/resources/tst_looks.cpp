@@ -181,6 +181,7 @@ private Q_SLOTS:
     void wirelessFillsUp();
     void clockTurnsEvenly();
     void clockIsQuietAndDarkInTheMiddle();
+    void styleFileAgreesWithThePictures();
 
 private:
     void addStrips();
@@ -364,6 +365,23 @@ void tst_looks::clockIsQuietAndDarkInTheMiddle()
         const QImage image = picture(clock, frame);
         QVERIFY(image.copy(middle) == first.copy(middle));
         QCOMPARE(image.pixel(15, 15), QColor(0x2B, 0x2E, 0x3B).rgb());
+    }
+}
+
+/// The name of a parameter is not touched: it looks like a fixed button.
+void tst_looks::styleFileAgreesWithThePictures()
+{
+    QVERIFY(CWidgetStyle::initialize(QLatin1String(CWIDGET_SOURCE_DIR "/style/widget-style.xml")));
+    const QColor fixed(picture(strips[0], 2).pixel(60, 20));
+    const char* const fields[] = {"CParmLabel", "CParmLineEdit", "CParmComboBox", "CParmCheckBox"};
+    const QFont button =
+        CWidgetStyle::getWidgetStyle(QLatin1String("CPushButton")).styles.first().font;
+    for (size_t i = 0; i < sizeof fields / sizeof fields[0]; ++i) {
+        const Style name = CWidgetStyle::getWidgetStyle(QLatin1String(fields[i])).styles.first();
+        QCOMPARE(static_cast<int>(name.field), static_cast<int>(Style::FieldName));
+        QCOMPARE(name.background, fixed);
+        QVERIFY(colors::contrast(name.foreground.rgb(), fixed.rgb()) >= minimumContrast);
+        QCOMPARE(name.font, button);
     }
 }
 
