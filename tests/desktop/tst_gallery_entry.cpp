@@ -17,6 +17,7 @@ const QRect fieldRect(120 + 140, 44 + 92, 192, 28);
 const QRect rangedRect(120 + 356, 44 + 92, 176, 28);
 const QRect keyboardOnlyRect(120 + 140, 44 + 332 + 80, 192, 28);
 const int rowPitch = 40;
+const QColor selectedApply(0x5F, 0xD0, 0x8D);
 
 QString latin(const char* text)
 {
@@ -97,12 +98,15 @@ void tst_gallery_entry::initTestCase()
     QVERIFY(CWidgetStyle::initialize(latin(CWIDGET_SOURCE_DIR "/style/widget-style.xml")));
 }
 
-/// Touches a field and waits for the black ground of the keypad.
+/// Touches a field and waits for the keypad: its black background, which a window may have before
+/// it is painted, and the green of the key that is selected first.
 bool tst_gallery_entry::openKeypad(GalleryWindow* window, const KeyMap& map, const QRect& field,
                                    int row)
 {
     window->click(field.translated(0, row * rowPitch).center());
-    return window->waitForColor(map.origin() + QPoint(3, 200), Qt::black);
+    const QPoint besideText = map.key(QString(), Key_Apply) - QPoint(35, 0);
+    return window->waitForColor(map.origin() + QPoint(3, 200), Qt::black) &&
+           window->waitForColor(besideText, selectedApply);
 }
 
 /// What the panel's field shows instead of \a text; empty when it is that.

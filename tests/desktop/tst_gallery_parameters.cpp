@@ -19,6 +19,7 @@ const int fieldPitch = 56;
 const int valueX = 600;
 const int switchX = 144 + 316 + 13;
 const QColor marked(67, 172, 232);
+const QColor selectedApply(0x5F, 0xD0, 0x8D);
 
 QString latin(const char* text)
 {
@@ -78,7 +79,8 @@ void tst_gallery_parameters::everyKindOfValueArrives()
 
     window.click(field(4)); // the port, a number
     const CKeyPadFactory::KeyPadType decimal = CKeyPadFactory::SKP_DECIMAL;
-    QVERIFY(window.waitForColor(listmap::panelCenter - QPoint(256, -5), Qt::black));
+    const QPoint besideApply = keyOf(decimal, QString(), Key_Apply) - QPoint(35, 0);
+    QVERIFY(window.waitForColor(besideApply, selectedApply)); // the keypad is painted
     window.click(keyOf(decimal, QString(), Key_DelAll));
     window.click(keyOf(decimal, latin("5"), 0));
     window.click(keyOf(decimal, QString(), Key_Apply)); // below the range
