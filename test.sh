@@ -5,6 +5,7 @@
 #   ./test.sh --qt 6           another generation of Qt; for 4, QT4_DIR must name the folder of Qt 4.8
 #   ./test.sh --sanitize       with the Address, UndefinedBehavior and Leak sanitizers
 #   ./test.sh --threads        the tests with several threads, with the Thread sanitizer (Qt 5)
+#   ./test.sh --clang          builds the library and the examples with Clang, and runs nothing
 #   ./test.sh --bench          the benchmarks
 #   ./test.sh --fuzz SECONDS   each fuzzer for so long; 0 replays their seeds only (Qt 5)
 #
@@ -16,6 +17,7 @@ source tools/packages.sh
 qt=5
 sanitize=OFF
 threads=OFF
+clang=
 bench=
 fuzz=
 while [ $# -gt 0 ]; do
@@ -23,10 +25,11 @@ while [ $# -gt 0 ]; do
         --qt) qt=${2:?--qt needs 5 or 6}; shift 2 ;;
         --sanitize) sanitize=ON; shift ;;
         --threads) threads=ON; shift ;;
+        --clang) clang=1; shift ;;
         --bench) bench=1; shift ;;
         --fuzz) fuzz=${2:?--fuzz needs a number of seconds}; shift 2 ;;
         --) shift; break ;;
-        *) sed -n '2,11s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
+        *) sed -n '2,12s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
     esac
 done
 if [ "$threads" = ON ] && [ "$qt" != 5 ]; then
@@ -48,6 +51,7 @@ test_packages="clang-format-14 xvfb openbox xdotool x11-utils usbutils util-linu
 cwidget_install $(cwidget_build_packages "$qt") $(cwidget_run_packages "$qt") \
     $(cwidget_designer_packages "$qt") $test_packages
 if [ -n "$bench" ]; then cwidget_install libbenchmark-dev; fi
+if [ -n "$clang" ]; then cwidget_install clang-14; fi
 if [ -n "$fuzz" ]; then cwidget_install clang-14 libclang-rt-14-dev llvm-14; fi
 
 build=build/test-qt$qt
@@ -62,6 +66,9 @@ elif [ "$threads" = ON ]; then
     options+=(-DCMAKE_BUILD_TYPE=RelWithDebInfo)
     targets=(--target threads)
     set -- -L threads "$@"
+elif [ -n "$clang" ]; then
+    build=build/clang-qt$qt
+    options+=(-DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_COMPILER=clang++-14 -DBUILD_TESTING=OFF)
 elif [ -n "$fuzz" ]; then
     build=build/fuzz-qt$qt
     options+=(-DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++-14
@@ -76,7 +83,7 @@ if [ -n "$bench" ]; then options+=(-DCWIDGET_BUILD_BENCHMARKS=ON); fi
 cmake -S . -B "$build" -G Ninja "${options[@]}"
 cmake --build "$build" "${targets[@]}"
 
-if [ -n "$fuzz" ]; then exit; fi
+if [ -n "$clang$fuzz" ]; then exit; fi
 if [ -n "$bench" ]; then exec cmake --build "$build" --target bench; fi
 
 cd "$build"
