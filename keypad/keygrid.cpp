@@ -1,6 +1,7 @@
 #include "keypad/keygrid_p.h"
 
 #include "keypad/keybutton.h"
+#include "style/keptpictures_p.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -22,13 +23,13 @@ void setUpBlankKey(CKeyButton* key)
     key->setEnabled(false);
 }
 
-void setUpKey(CKeyButton* key, const Key& row, Pictures* pictures)
+void setUpKey(CKeyButton* key, const Key& row)
 {
     key->setKeyText(QLatin1String(row.text));
     key->setKey(row.code);
     if (row.symbol)
         key->setSymbol(QString(QLatin1Char(row.symbol)));
-    setLook(key, row.pictures, pictures);
+    setLook(key, row.pictures);
 }
 
 QHBoxLayout* addRow(QVBoxLayout* column, const Row& row)
@@ -44,14 +45,6 @@ QHBoxLayout* addRow(QVBoxLayout* column, const Row& row)
 
 } // namespace
 
-QPixmap Pictures::get(CWidgetStyle::KeyStatus status)
-{
-    QMap<int, QPixmap>::const_iterator found = m_read.constFind(status);
-    if (found == m_read.constEnd())
-        found = m_read.insert(status, CWidgetStyle::getKeyStatus(status));
-    return found.value();
-}
-
 /// Lays out the keys of \a plan on \a grid, whose children they become in the order of the table,
 /// and has the grid watch all but the blank ones, which it adds to \a keys. Selects the key that
 /// accepts the entry, as a new grid shows it, and returns it.
@@ -62,7 +55,6 @@ CKeyButton* build(QWidget* grid, const Plan& plan, QList<CKeyButton*>* keys)
                                plan.bottomMargin);
     if (plan.spacing != inheritedSpacing)
         column->setSpacing(plan.spacing);
-    Pictures pictures;
     const Key* next = plan.keys;
     for (int i = 0; i < plan.rowCount; ++i) {
         QHBoxLayout* row = addRow(column, plan.rows[i]);
@@ -73,7 +65,7 @@ CKeyButton* build(QWidget* grid, const Plan& plan, QList<CKeyButton*>* keys)
             if (next->code == Qt::Key_unknown) {
                 setUpBlankKey(key);
             } else {
-                setUpKey(key, *next, &pictures);
+                setUpKey(key, *next);
                 watch(grid, keys, key);
             }
             row->addWidget(key);
@@ -86,15 +78,15 @@ CKeyButton* build(QWidget* grid, const Plan& plan, QList<CKeyButton*>* keys)
 }
 
 /// Gives \a key the pictures from \a pressed on, and white text, black while it is selected.
-void setLook(CKeyButton* key, CWidgetStyle::KeyStatus pressed, Pictures* pictures)
+void setLook(CKeyButton* key, CWidgetStyle::KeyStatus pressed)
 {
-    const QPixmap released = pictures->get(following(pressed, 1));
+    const QPixmap released = keptpictures::key(following(pressed, 1));
     const QVariant white = QColor(Qt::white);
     key->setTextColor(Qt::white);
     key->setBackground(released);
-    key->setExtraAttr(CPushButton::PressedPixmap, pictures->get(pressed));
+    key->setExtraAttr(CPushButton::PressedPixmap, keptpictures::key(pressed));
     key->setExtraAttr(CPushButton::ReleasedPixmap, released);
-    key->setExtraAttr(CPushButton::SelectedPixmap, pictures->get(following(pressed, 2)));
+    key->setExtraAttr(CPushButton::SelectedPixmap, keptpictures::key(following(pressed, 2)));
     key->setExtraAttr(CPushButton::PressedTextColor, white);
     key->setExtraAttr(CPushButton::ReleasedTextColor, white);
     key->setExtraAttr(CPushButton::SelectedTextColor, QColor(Qt::black));

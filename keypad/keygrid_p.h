@@ -5,8 +5,6 @@
 
 #include <QEvent>
 #include <QList>
-#include <QMap>
-#include <QPixmap>
 #include <QPointer>
 
 class CKeyButton;
@@ -47,18 +45,8 @@ struct Plan {
 /// The spacing that a layout has from its parent or, the outermost one, from the style.
 const int inheritedSpacing = -1;
 
-/// The pictures of the keys of one grid: each is read once while the grid is built.
-class Pictures
-{
-public:
-    QPixmap get(CWidgetStyle::KeyStatus status);
-
-private:
-    QMap<int, QPixmap> m_read;
-};
-
 CKeyButton* build(QWidget* grid, const Plan& plan, QList<CKeyButton*>* keys);
-void setLook(CKeyButton* key, CWidgetStyle::KeyStatus pressed, Pictures* pictures);
+void setLook(CKeyButton* key, CWidgetStyle::KeyStatus pressed);
 
 void watch(QObject* grid, QList<CKeyButton*>* keys, CKeyButton* key);
 CKeyButton* keyOf(const QList<CKeyButton*>& keys, int code);

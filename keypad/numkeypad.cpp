@@ -139,8 +139,7 @@ void CNumKeyPad::blankSignKey()
 
 void CNumKeyPad::restoreSignKey()
 {
-    keygrid::Pictures pictures;
     m_signKey->setText(QLatin1String(signText));
-    keygrid::setLook(m_signKey, CWidgetStyle::NumKeyPressed, &pictures);
+    keygrid::setLook(m_signKey, CWidgetStyle::NumKeyPressed);
     m_signKey->setEnabled(true);
 }

@@ -1,5 +1,6 @@
 #include "pages/pagebar.h"
 
+#include "style/keptpictures_p.h"
 #include "widgets/pushbutton.h"
 
 #include <QHBoxLayout>
@@ -34,10 +35,9 @@ const ArrowRow downArrow  = {CWidgetStyle::DownReleased, CWidgetStyle::DownPress
 
 void dress(CPushButton* button, const ArrowRow& arrow)
 {
-    const QPixmap released = CWidgetStyle::getPageSwitchStatus(arrow.released);
+    const QPixmap released = keptpictures::pageSwitch(arrow.released);
     button->setBackground(released);
-    button->setExtraAttr(CPushButton::PressedPixmap,
-                         CWidgetStyle::getPageSwitchStatus(arrow.pressed));
+    button->setExtraAttr(CPushButton::PressedPixmap, keptpictures::pageSwitch(arrow.pressed));
     button->setExtraAttr(CPushButton::ReleasedPixmap, released);
     button->setFixedSize(arrow.width, arrow.height);
 }

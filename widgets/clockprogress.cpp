@@ -1,5 +1,7 @@
 #include "widgets/clockprogress.h"
 
+#include "style/keptpictures_p.h"
+
 #include <QPainter>
 #include <QTimer>
 
@@ -172,7 +174,7 @@ QString CClockProgress::text() const
 
 void CClockProgress::drawFace(QPainter* painter)
 {
-    const QPixmap strip(QLatin1String(":/images/MISC_PROGCLK_11states.png"));
+    const QPixmap strip = keptpictures::image(":/images/MISC_PROGCLK_11states.png");
     painter->drawPixmap(faceRect(), strip, QRect(COUNT * faceSize, 0, faceSize, faceSize));
 }
 

@@ -1,5 +1,6 @@
 #include "widgets/pushbutton.h"
 
+#include "style/keptpictures_p.h"
 #include "style/qtcompat.h"
 #include "style/stylewalk_p.h"
 #include "style/widgetstyle.h"
@@ -183,9 +184,9 @@ void CPushButton::setStyle(ButtonStyle style, bool normalSize)
     const StyleRow* const row = known ? rowOf(styles, style) : &styles[DefaultStyle];
     m_extraAttrs.insert(styleAttr, static_cast<int>(known ? style : DefaultStyle));
     m_extraAttrs.insert(normalSizeAttr, normalSize);
-    const QPixmap released = CWidgetStyle::getButtonStatus(row->released, normalSize);
+    const QPixmap released = keptpictures::button(row->released, normalSize);
     setBackground(released);
-    setExtraAttr(PressedPixmap, CWidgetStyle::getButtonStatus(row->pressed, normalSize));
+    setExtraAttr(PressedPixmap, keptpictures::button(row->pressed, normalSize));
     setExtraAttr(ReleasedPixmap, released);
     setTextColor(Qt::white);
 }
