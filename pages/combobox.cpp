@@ -45,8 +45,9 @@ CComboBox::CComboBox(QWidget* parent)
 {
     m_pageList->hide();
     setFixedHeight(boxHeight);
-    setStyleSheet(QLatin1String(boxStyleSheet));
+    // The font comes first, as a sheet would have to go away for it.
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), 0));
+    setStyleSheet(QLatin1String(boxStyleSheet));
     connect(this, qtcompat::comboTextActivatedSignal(), this, SLOT(itemActivated(QString)));
     connect(m_pageList, SIGNAL(currentItemChanged(QString)), this,
             SLOT(changeCurrentItem(QString)));

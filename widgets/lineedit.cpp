@@ -26,8 +26,9 @@ CLineEdit::CLineEdit(QWidget* parent)
       m_borderVisible(true)
 {
     setFixedHeight(fieldHeight);
-    setStyleSheet(QLatin1String("border: 0px;")); // the frame is painted here
+    // The font comes first, as a sheet would have to go away for it.
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CLineEdit"), 0));
+    setStyleSheet(QLatin1String("border: 0px;")); // the frame is painted here
 }
 
 CLineEdit::~CLineEdit()
