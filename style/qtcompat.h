@@ -44,6 +44,16 @@ inline int textWidth(const QFontMetrics& metrics, const QString& text)
 #endif
 }
 
+/// The advance of \a text, not rounded.
+inline qreal textWidth(const QFontMetricsF& metrics, const QString& text)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
+    return metrics.horizontalAdvance(text);
+#else
+    return metrics.width(text);
+#endif
+}
+
 /// The advance of the single character \a ch in pixels.
 inline int charWidth(const QFontMetrics& metrics, QChar ch)
 {

@@ -7,6 +7,28 @@
 namespace painting
 {
 
+namespace
+{
+
+const int opaqueAlpha = 255;
+
+} // namespace
+
+/// Whether the pixels of \a painter are those of its widget: it may be moved by whole pixels, but
+/// not scaled or turned.
+bool isAligned(const QPainter* painter)
+{
+    const QTransform transform = painter->deviceTransform();
+    return transform.type() <= QTransform::TxTranslate &&
+           transform.dx() == qRound(transform.dx()) && transform.dy() == qRound(transform.dy());
+}
+
+/// Whether nothing shines through an area that is filled with \a color.
+bool isOpaque(const QColor& color)
+{
+    return color.isValid() && color.alpha() == opaqueAlpha;
+}
+
 /// Where a pen of \a borderWidth pixels runs so that all of it lies inside \a size.
 QRect borderRect(const QSize& size, int borderWidth)
 {
@@ -14,11 +36,16 @@ QRect borderRect(const QSize& size, int borderWidth)
                  size.height() - borderWidth);
 }
 
-/// Fills \a rect, outline included, with \a color; an invalid colour draws nothing.
+/// Fills \a rect, which is all of a widget, with \a color; an invalid colour draws nothing. Of a
+/// colour that something shines through, the outline is blended twice, wanted so.
 void drawFill(QPainter* painter, const QRect& rect, const QColor& color)
 {
     if (!color.isValid())
         return;
+    if (isOpaque(color) && isAligned(painter)) {
+        painter->fillRect(rect.adjusted(0, 0, 1, 1), color);
+        return;
+    }
     painter->setPen(color);
     painter->setBrush(QBrush(color, Qt::SolidPattern));
     painter->drawRect(rect);

@@ -11,6 +11,8 @@ class QWidget;
 namespace painting
 {
 
+bool isAligned(const QPainter* painter);
+bool isOpaque(const QColor& color);
 QRect borderRect(const QSize& size, int borderWidth);
 
 void drawFill(QPainter* painter, const QRect& rect, const QColor& color);

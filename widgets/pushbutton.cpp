@@ -5,6 +5,7 @@
 #include "style/stylewalk_p.h"
 #include "style/widgetstyle.h"
 #include "widgets/painting_p.h"
+#include "widgets/shapedtext_p.h"
 
 #include <QIcon>
 #include <QPainter>
@@ -56,6 +57,13 @@ const Row* rowOf(const Row (&table)[count], int number)
     return number >= 0 && static_cast<size_t>(number) < count ? &table[number] : 0;
 }
 
+void drawSmoothly(QPainter* painter, const QRect& rect, const QPixmap& pixmap)
+{
+    painter->setRenderHint(QPainter::Antialiasing, true);
+    painter->drawPixmap(rect, pixmap);
+    painter->setRenderHint(QPainter::Antialiasing, false);
+}
+
 } // namespace
 
 /// A button of 120 x 40 pixels on a violet ground, without text and pictures, that takes no focus;
@@ -67,7 +75,8 @@ CPushButton::CPushButton(QWidget* parent)
       m_textColor(Qt::black),
       m_backgroundColor(99, 94, 128, 255),
       m_autoStyleEnabled(true),
-      m_looksPressed(false)
+      m_looksPressed(false),
+      m_shapedText(0)
 {
     initialize();
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CPushButton"), 0));
@@ -75,6 +84,7 @@ CPushButton::CPushButton(QWidget* parent)
 
 CPushButton::~CPushButton()
 {
+    delete m_shapedText;
 }
 
 /// Sets the button up as a touch button: flat, without focus, 120 x 40 pixels. Returns true.
@@ -300,13 +310,15 @@ void CPushButton::changeEvent(QEvent* event)
 
 void CPushButton::paintEvent(QPaintEvent* event)
 {
-    QPushButton::paintEvent(event);
-    drawBackgroundColor();
-    drawBorder();
-    drawBackgroundPixmap();
+    if (!painting::isOpaque(m_backgroundColor)) // else nothing of it is seen
+        QPushButton::paintEvent(event);
     const QPixmap icon = iconPixmap();
-    drawIcon(icon);
-    drawText(!icon.isNull());
+    QPainter painter(this);
+    drawBackgroundColor(&painter);
+    drawBorder(&painter);
+    drawBackgroundPixmap(&painter);
+    drawIcon(&painter, icon);
+    drawText(&painter, !icon.isNull());
 }
 
 QPixmap CPushButton::iconPixmap() const
@@ -331,44 +343,36 @@ QRect CPushButton::textRect(bool hasIcon) const
     return QRect(left, 0, width() - left, height());
 }
 
-void CPushButton::drawBackgroundColor()
+void CPushButton::drawBackgroundColor(QPainter* painter)
 {
-    QPainter painter(this);
-    painting::drawFill(&painter, rect(), m_backgroundColor);
+    painting::drawFill(painter, rect(), m_backgroundColor);
 }
 
-void CPushButton::drawBorder()
+void CPushButton::drawBorder(QPainter* painter)
 {
-    if (!m_borderColor.isValid())
-        return;
-    QPainter painter(this);
-    painting::drawBorder(&painter, size(), borderWidth, m_borderColor, m_backgroundColor);
+    if (m_borderColor.isValid())
+        painting::drawBorder(painter, size(), borderWidth, m_borderColor, m_backgroundColor);
 }
 
-void CPushButton::drawBackgroundPixmap()
+void CPushButton::drawBackgroundPixmap(QPainter* painter)
 {
-    if (m_background.isNull())
-        return;
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.drawPixmap(rect(), m_background);
+    if (!m_background.isNull())
+        drawSmoothly(painter, rect(), m_background);
 }
 
-void CPushButton::drawIcon(const QPixmap& pixmap)
+void CPushButton::drawIcon(QPainter* painter, const QPixmap& pixmap)
 {
-    if (pixmap.isNull())
-        return;
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.drawPixmap(iconRect(), pixmap);
+    if (!pixmap.isNull())
+        drawSmoothly(painter, iconRect(), pixmap);
 }
 
-void CPushButton::drawText(bool hasIcon)
+void CPushButton::drawText(QPainter* painter, bool hasIcon)
 {
     if (m_text.isEmpty() || m_textSize == 0)
         return;
-    QPainter painter(this);
-    painter.setFont(font());
-    painter.setPen(m_textColor);
-    painter.drawText(textRect(hasIcon), Qt::AlignCenter, m_text);
+    painter->setFont(font());
+    painter->setPen(m_textColor);
+    if (!m_shapedText)
+        m_shapedText = new ShapedText;
+    m_shapedText->draw(painter, textRect(hasIcon), m_text);
 }

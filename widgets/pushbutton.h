@@ -10,6 +10,9 @@
 #include <QPushButton>
 #include <QVariant>
 
+class QPainter;
+class ShapedText;
+
 /// The touch button: a ground of a colour, a border, a picture that fills it, an icon and a text.
 /// For each of its states it may have a picture and a text colour, which the state brings up.
 ///
@@ -105,11 +108,11 @@ private:
     QPixmap iconPixmap() const;
     QRect iconRect() const;
     QRect textRect(bool hasIcon) const;
-    void drawBackgroundColor();
-    void drawBorder();
-    void drawBackgroundPixmap();
-    void drawIcon(const QPixmap& pixmap);
-    void drawText(bool hasIcon);
+    void drawBackgroundColor(QPainter* painter);
+    void drawBorder(QPainter* painter);
+    void drawBackgroundPixmap(QPainter* painter);
+    void drawIcon(QPainter* painter, const QPixmap& pixmap);
+    void drawText(QPainter* painter, bool hasIcon);
 
     bool m_selected;
     int m_textSize;
@@ -121,6 +124,7 @@ private:
     QMap<ExtraAttr, QVariant> m_extraAttrs;
     bool m_autoStyleEnabled;
     bool m_looksPressed;
+    ShapedText* m_shapedText;
 
     Q_DISABLE_COPY(CPushButton)
 };

@@ -247,29 +247,26 @@ void CWidget::unlockWidget()
 void CWidget::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
-    drawBackgroundColor();
-    drawBackgroundPixmap();
-    drawBorder();
+    QPainter painter(this);
+    drawBackgroundColor(&painter);
+    drawBackgroundPixmap(&painter);
+    drawBorder(&painter);
 }
 
-void CWidget::drawBackgroundColor()
+void CWidget::drawBackgroundColor(QPainter* painter)
 {
-    QPainter painter(this);
-    painting::drawFill(&painter, rect(), m_backgroundColor);
+    painting::drawFill(painter, rect(), m_backgroundColor);
 }
 
-void CWidget::drawBackgroundPixmap()
+void CWidget::drawBackgroundPixmap(QPainter* painter)
 {
-    if (m_background.isNull())
-        return;
-    QPainter painter(this);
-    painter.drawPixmap(QPointF(0.0, 0.0), m_background);
+    if (!m_background.isNull())
+        painter->drawPixmap(QPointF(0.0, 0.0), m_background);
 }
 
-void CWidget::drawBorder()
+void CWidget::drawBorder(QPainter* painter)
 {
-    QPainter painter(this);
-    painting::drawBorder(&painter, size(), m_borderWidth, m_borderColor, m_backgroundColor);
+    painting::drawBorder(painter, size(), m_borderWidth, m_borderColor, m_backgroundColor);
 }
 
 void CWidget::showEvent(QShowEvent* event)

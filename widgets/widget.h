@@ -8,6 +8,8 @@
 #include <QPixmap>
 #include <QWidget>
 
+class QPainter;
+
 /// The themed base of most widgets of the library: a ground of a colour, a picture and a border,
 /// a set of virtual operations that containers call on their children, styling from the style file,
 /// and, if wanted, management as one of the screens of the widget stack.
@@ -62,9 +64,9 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void drawBackgroundColor();
-    void drawBackgroundPixmap();
-    void drawBorder();
+    void drawBackgroundColor(QPainter* painter);
+    void drawBackgroundPixmap(QPainter* painter);
+    void drawBorder(QPainter* painter);
 
     int m_borderWidth;
     QString m_configurationName;
