@@ -4,6 +4,7 @@
 #include "style/qtcompat.h"
 #include "style/stylewalk_p.h"
 #include "style/widgetstyle.h"
+#include "widgets/heldupdates_p.h"
 #include "widgets/painting_p.h"
 #include "widgets/shapedtext_p.h"
 
@@ -287,7 +288,10 @@ void CPushButton::setWidgetStyle(WidgetStyle style)
 void CPushButton::mousePressEvent(QMouseEvent* event)
 {
     const QPointer<CPushButton> self(this); // a slot of pressed() may delete the button
-    QAbstractButton::mousePressEvent(event);
+    {
+        const HeldUpdates held(this, heldSignal(SIGNAL(pressed())));
+        QAbstractButton::mousePressEvent(event);
+    }
     if (self && isEnabled())
         updateStatus(Pressed);
 }
@@ -295,7 +299,10 @@ void CPushButton::mousePressEvent(QMouseEvent* event)
 void CPushButton::mouseReleaseEvent(QMouseEvent* event)
 {
     const QPointer<CPushButton> self(this); // a slot of clicked() may delete the button
-    QPushButton::mouseReleaseEvent(event);
+    {
+        const HeldUpdates held(this, heldSignal(SIGNAL(released())));
+        QPushButton::mouseReleaseEvent(event);
+    }
     if (self && isEnabled())
         updateStatus(Released);
 }
@@ -306,6 +313,15 @@ void CPushButton::changeEvent(QEvent* event)
     QPushButton::changeEvent(event);
     if (event->type() == QEvent::EnabledChange && !isEnabled() && m_looksPressed)
         updateStatus(Released);
+}
+
+/// The \a signal, the first that Qt emits for a touch, up to which the button need not be painted:
+/// its look is about to change anyway. Null where it must be painted at once: where Qt's own look
+/// is to be seen, and where slots would run before that, which might paint it.
+const char* CPushButton::heldSignal(const char* signal) const
+{
+    const bool slotsCome = isCheckable() || receivers(signal) > 0;
+    return painting::isOpaque(m_backgroundColor) && !slotsCome ? signal : 0;
 }
 
 void CPushButton::paintEvent(QPaintEvent* event)

@@ -108,6 +108,7 @@ private:
     QPixmap iconPixmap() const;
     QRect iconRect() const;
     QRect textRect(bool hasIcon) const;
+    const char* heldSignal(const char* signal) const;
     void drawBackgroundColor(QPainter* painter);
     void drawBorder(QPainter* painter);
     void drawBackgroundPixmap(QPainter* painter);
