@@ -120,9 +120,14 @@ void CPageBar::setCount(int count)
 /// Counts one page more; the first one becomes the current one. Emits nothing.
 void CPageBar::addPage()
 {
-    if (m_currentIndex < 0)
+    addPages(1);
+}
+
+void CPageBar::addPages(int count)
+{
+    if (count > 0 && m_currentIndex < 0)
         m_currentIndex = 0;
-    ++m_count;
+    m_count += count;
     setText();
 }
 

@@ -52,8 +52,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    friend class CPageListWidget; // counts thousands of pages at once
+
     void buildHorizontal();
     void buildVertical();
+    void addPages(int count);
     void turnTo(int index);
     QRect turnedViewport() const;
     void drawText();

@@ -227,8 +227,7 @@ void CPageListWidget::adjustHeight()
 void CPageListWidget::adjustPageCount()
 {
     m_pageBar->clear();
-    for (int first = 0; first < m_visibleIndex.size(); first += m_maxVisibleRows)
-        m_pageBar->addPage();
+    m_pageBar->addPages((m_visibleIndex.size() + m_maxVisibleRows - 1) / m_maxVisibleRows);
 }
 
 /// The index of the current entry in the list of texts, 0 by default.

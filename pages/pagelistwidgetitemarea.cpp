@@ -1,5 +1,6 @@
 #include "pages/pagelistwidgetitemarea.h"
 
+#include "pages/pagelayout_p.h"
 #include "pages/pagelistwidgetitem.h"
 #include "style/qtcompat.h"
 #include "style/widgetstyle.h"
@@ -8,7 +9,6 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QSet>
-#include <QVBoxLayout>
 
 namespace
 {
@@ -26,15 +26,13 @@ CPageListWidgetItemArea::CPageListWidgetItemArea(QWidget* parent)
       m_currentPage(0),
       m_currentIndex(0),
       m_maxVisibleRows(defaultMaxVisibleRows),
-      m_layout(new QVBoxLayout(this)),
+      m_layout(new PageLayout(this)),
       m_pressedItem(0),
       m_releasedItem(0),
-      m_hoveredItem(0)
+      m_hoveredItem(0),
+      m_firstShown(0),
+      m_endShown(0)
 {
-    m_layout->setContentsMargins(0, 2, 0, 1);
-    m_layout->setSpacing(1);
-    m_layout->setAlignment(Qt::AlignCenter);
-    m_layout->addStretch();
     setBackgroundColor(Qt::white);
     setBorderColor(Qt::black);
     setBorderWidth(1);
@@ -85,6 +83,9 @@ void CPageListWidgetItemArea::clear()
     m_hoveredItem = 0;
     m_currentIndex = 0;
     m_currentPage = 0;
+    m_firstShown = 0;
+    m_endShown = 0;
+    m_layout->setPage(QList<QWidget*>());
     for (int i = 0; i < items.size(); ++i) {
         items.at(i)->removeEventFilter(this);
         delete items.at(i);
@@ -107,10 +108,13 @@ void CPageListWidgetItemArea::setVisibleItems(const QList<int>& indexes)
         if (item->isActive())
             m_visibleItems.append(item);
     }
-    if (!hasCurrentPage())
-        showAllVisibleItems();
     resumeLayout();
-    updateStatus();
+    m_firstShown = 0; // all of them may be on screen and marked, from before
+    m_endShown = m_visibleItems.size();
+    if (hasCurrentPage())
+        updateStatus();
+    else
+        showRows(0, m_visibleItems.size());
 }
 
 /// The index of the current entry in the owner's list of texts, 0 by default.
@@ -164,14 +168,9 @@ void CPageListWidgetItemArea::updateStatus()
 {
     if (!hasCurrentPage())
         return;
-    pauseLayout();
-    showCurrentPage();
-    resumeLayout();
-    for (int i = 0; i < m_visibleItems.size(); ++i) {
-        CPageListWidgetItem* item = m_visibleItems.at(i);
-        if (item->isActive())
-            item->setSelect(item->index() == m_currentIndex && item->isVisible());
-    }
+    const int first = m_currentPage * m_maxVisibleRows;
+    const qint64 end = static_cast<qint64>(first) + qMax(0, m_maxVisibleRows);
+    showRows(first, static_cast<int>(qMin<qint64>(end, m_visibleItems.size())));
 }
 
 bool CPageListWidgetItemArea::hasCurrentPage() const
@@ -180,21 +179,40 @@ bool CPageListWidgetItemArea::hasCurrentPage() const
     return start >= 0 && start < m_visibleItems.size();
 }
 
-void CPageListWidgetItemArea::showCurrentPage()
+/// Hands the rows that may be on screen now and those from \a first to the one before \a end to \a
+/// visit, from the top, and says of each whether it is one of the latter.
+template <typename Visitor>
+void CPageListWidgetItemArea::visitRows(int first, int end, Visitor visit) const
 {
-    const int start = m_currentPage * m_maxVisibleRows;
-    const qint64 end = static_cast<qint64>(start) + m_maxVisibleRows;
-    for (int i = 0; i < m_visibleItems.size(); ++i) {
-        CPageListWidgetItem* item = m_visibleItems.at(i);
-        if (item->isActive())
-            item->setVisible(start <= i && i < end);
-    }
+    for (int i = m_firstShown; i < qMin(m_endShown, first); ++i)
+        visit(m_visibleItems.at(i), false);
+    for (int i = first; i < end; ++i)
+        visit(m_visibleItems.at(i), true);
+    for (int i = qMax(m_firstShown, end); i < m_endShown; ++i)
+        visit(m_visibleItems.at(i), false);
 }
 
-void CPageListWidgetItemArea::showAllVisibleItems()
+/// Shows the rows from \a first to the one before \a end and no others, and marks that of the
+/// current entry.
+void CPageListWidgetItemArea::showRows(int first, int end)
 {
-    for (int i = 0; i < m_visibleItems.size(); ++i)
-        m_visibleItems.at(i)->setVisible(true);
+    QList<QWidget*> page;
+    pauseLayout();
+    visitRows(first, end, [&page](CPageListWidgetItem* item, bool isOnPage) {
+        if (item->isActive())
+            item->setVisible(isOnPage);
+        if (isOnPage)
+            page.append(item);
+    });
+    m_layout->setPage(page);
+    resumeLayout();
+    if (hasCurrentPage())
+        visitRows(first, end, [this](CPageListWidgetItem* item, bool) {
+            if (item->isActive())
+                item->setSelect(item->index() == m_currentIndex && item->isVisible());
+        });
+    m_firstShown = first;
+    m_endShown = end;
 }
 
 /// Until resumeLayout(), rows come and go without a layout of all rows for each of them.
@@ -272,5 +290,12 @@ void CPageListWidgetItemArea::mouseMoveEvent(QMouseEvent* event)
 /// The row at \a point; null when there is none.
 CPageListWidgetItem* CPageListWidgetItemArea::itemAt(const QPoint& point) const
 {
-    return qobject_cast<CPageListWidgetItem*>(childAt(point));
+    if (!rect().contains(point))
+        return 0;
+    for (int i = m_endShown - 1; i >= m_firstShown; --i) {
+        CPageListWidgetItem* item = m_visibleItems.at(i);
+        if (!item->isHidden() && item->geometry().contains(point))
+            return item;
+    }
+    return 0;
 }

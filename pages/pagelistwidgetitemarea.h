@@ -7,7 +7,7 @@
 #include <QStringList>
 
 class CPageListWidgetItem;
-class QVBoxLayout;
+class PageLayout;
 
 /// The rows of a paged list. It shows one page of those that take part in paging, marks the current
 /// entry and the row under the finger, and tells which row was touched.
@@ -58,8 +58,9 @@ protected:
 private:
     void addItem(const QString& text);
     bool hasCurrentPage() const;
-    void showCurrentPage();
-    void showAllVisibleItems();
+    template <typename Visitor>
+    void visitRows(int first, int end, Visitor visit) const;
+    void showRows(int first, int end);
     void pauseLayout();
     void resumeLayout();
     QSize rowSize() const;
@@ -70,12 +71,14 @@ private:
     int m_currentIndex;
     int m_maxVisibleRows;
     QString m_currentText;
-    QVBoxLayout* m_layout;
+    PageLayout* m_layout;
     CPageListWidgetItem* m_pressedItem;
     CPageListWidgetItem* m_releasedItem;
     CPageListWidgetItem* m_hoveredItem;
     QList<CPageListWidgetItem*> m_items;
     QList<CPageListWidgetItem*> m_visibleItems;
+    int m_firstShown;
+    int m_endShown;
 
     Q_DISABLE_COPY(CPageListWidgetItemArea)
 };
