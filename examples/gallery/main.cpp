@@ -1,6 +1,7 @@
 // The gallery: a device's front panel that shows every widget of the library, built as an
 // application developer would build it.
 
+#include "common/netlinkaddress.h"
 #include "gallerywidgets.h"
 #include "panel.h"
 #include "shots.h"
@@ -163,7 +164,7 @@ QString copyOfDefaultStyle()
     return QFile::copy(QLatin1String(GALLERY_STYLE_FILE), copy) ? copy : QString();
 }
 
-int run(const Options& options)
+int run(const Options& options, NetlinkAddress* address)
 {
     const QString copy = options.style.isEmpty() ? copyOfDefaultStyle() : QString();
     const QString style = options.style.isEmpty() ? copy : options.style;
@@ -176,6 +177,7 @@ int run(const Options& options)
     int result = 0;
     if (options.shots.isEmpty()) {
         panel.show();
+        address->release();
         QTimer::singleShot(0, panel.screen(QLatin1String("devices")), SLOT(watch()));
         result = QApplication::exec();
     } else {
@@ -207,9 +209,10 @@ int main(int argc, char** argv)
     if (!choosePlatform(options, words))
         return 1;
     Arguments arguments(words);
+    NetlinkAddress address;
     QApplication application(arguments.count(), arguments.values());
     QApplication::setApplicationName(QLatin1String("Quorlin gallery"));
     if (QApplication::arguments().size() > 1) // neither ours nor Qt's
         return printMistake("unknown option", QApplication::arguments().at(1));
-    return run(options);
+    return run(options, &address);
 }
