@@ -40,6 +40,7 @@ void writeKeypads(Panel* panel, ShotWriter* writer)
     panel->showScreen(name);
     const EntryScreen* screen = qobject_cast<EntryScreen*>(panel->screen(name));
     for (size_t i = 0; i < sizeof keypads / sizeof keypads[0]; ++i) {
+        panel->setHint(QString()); // what the one before has entered
         writer->expectKeypad(QLatin1String(keypads[i].name));
         touch(screen->field(keypads[i].type));
         QApplication::sendPostedEvents(0, QEvent::DeferredDelete);

@@ -26,7 +26,7 @@ void ShotWriter::write(const QString& name, QWidget* above)
     m_panel->render(&image);
     if (above) {
         QPainter painter(&image);
-        above->render(&painter, above->pos() - m_panel->pos());
+        above->render(&painter, m_panel->mapFromGlobal(above->mapToGlobal(QPoint())));
     }
     const QString path = m_folder.filePath(name + QLatin1String(".png"));
     const bool written = image.save(path);
