@@ -7,9 +7,10 @@
 #   ./test.sh --threads        the tests with several threads, with the Thread sanitizer (Qt 5)
 #   ./test.sh --clang          builds the library and the examples with Clang, and runs nothing
 #   ./test.sh --bench          the benchmarks
+#   ./test.sh --device         the gallery on the frame buffer of a virtual machine, touched and plugged
 #   ./test.sh --fuzz SECONDS   each fuzzer for so long; 0 replays their seeds only (Qt 5)
 #
-# What follows -- goes to ctest.
+# What follows -- goes to ctest, with --device to tests/device/run.py.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 source tools/packages.sh
@@ -20,6 +21,7 @@ threads=OFF
 clang=
 bench=
 fuzz=
+device=
 while [ $# -gt 0 ]; do
     case $1 in
         --qt) qt=${2:?--qt needs 5 or 6}; shift 2 ;;
@@ -27,9 +29,10 @@ while [ $# -gt 0 ]; do
         --threads) threads=ON; shift ;;
         --clang) clang=1; shift ;;
         --bench) bench=1; shift ;;
+        --device) device=1; shift ;;
         --fuzz) fuzz=${2:?--fuzz needs a number of seconds}; shift 2 ;;
         --) shift; break ;;
-        *) sed -n '2,12s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
+        *) sed -n '2,13s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
     esac
 done
 if [ "$threads" = ON ] && [ "$qt" != 5 ]; then
@@ -47,12 +50,22 @@ if [ "$qt" = 4 ]; then
 fi
 
 test_packages="clang-format-14 xvfb openbox xdotool x11-utils usbutils util-linux"
+device_packages="qemu-system-x86 busybox-static kmod udev usbutils util-linux e2fsprogs python3"
 # shellcheck disable=SC2046,SC2086
 cwidget_install $(cwidget_build_packages "$qt") $(cwidget_run_packages "$qt") \
     $(cwidget_designer_packages "$qt") $test_packages
 if [ -n "$bench" ]; then cwidget_install libbenchmark-dev; fi
 if [ -n "$clang" ]; then cwidget_install clang-14; fi
 if [ -n "$fuzz" ]; then cwidget_install clang-14 libclang-rt-14-dev llvm-14; fi
+
+if [ -n "$device" ]; then
+    # shellcheck disable=SC2086
+    if ! trouble=$(cwidget_install $device_packages 2>&1 &&
+        tests/device/fetchkernel.sh build/device/kernel 2>&1); then
+        echo "The device is not tested: no virtual machine here ($(echo "$trouble" | tail -n 1))"
+        exit 0
+    fi
+fi
 
 build=build/test-qt$qt
 options=(-DCWIDGET_QT_MAJOR="$qt" -DCWIDGET_WERROR=ON -DCWIDGET_SANITIZE="$sanitize"
@@ -78,12 +91,17 @@ elif [ -n "$fuzz" ]; then
 else
     options+=(-DCMAKE_BUILD_TYPE=Release)
 fi
+if [ -n "$device" ]; then targets=(--target device); fi
 if [ -n "$bench" ]; then options+=(-DCWIDGET_BUILD_BENCHMARKS=ON); fi
 
 cmake -S . -B "$build" -G Ninja "${options[@]}"
 cmake --build "$build" "${targets[@]}"
 
 if [ -n "$clang$fuzz" ]; then exit; fi
+if [ -n "$device" ]; then
+    exec /usr/bin/python3 tests/device/run.py --build "$build" --kernel build/device/kernel \
+        --output "build/device/qt$qt" "$@"
+fi
 if [ -n "$bench" ]; then exec cmake --build "$build" --target bench; fi
 
 cd "$build"

@@ -1,0 +1,1 @@
+"""What a person does with a panel, and what is measured meanwhile."""
