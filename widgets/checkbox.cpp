@@ -35,12 +35,13 @@ CCheckBox::CCheckBox(QWidget* parent)
 /// An unchecked white box with the caption \a text and a frame, 28 pixels high; its font is that of
 /// the style file's entry "CCheckBox".
 CCheckBox::CCheckBox(const QString& text, QWidget* parent)
-    : QCheckBox(text, parent),
+    : QCheckBox(parent),
       m_borderVisible(true),
       m_autoStyleEnabled(true),
       m_foregroundColor(Qt::white),
       m_checkState(Qt::Unchecked)
 {
+    setText(text); // here, where assistive technology already sees this class
     setFixedHeight(captionedHeight);
     setFont(QFont(QLatin1String("Arial"), captionPointSize, QFont::Bold));
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CCheckBox"), 0));

@@ -18,6 +18,7 @@ const struct Layer {
     {"pages",   "style widgets"},
     {"parm",    "style widgets keypad pages"},
     {"hotplug", "style"},
+    {"accessibility", "style widgets keypad pages parm"},
     // clang-format on
 };
 
