@@ -13,6 +13,7 @@ class QDeviceWatcherPrivate;
 class CWIDGET_EXPORT QDeviceChangeEvent : public QEvent
 {
 public:
+    /// What happened to the device.
     enum Action : int {
         Add = 0,
         Remove = 1,
@@ -53,8 +54,11 @@ public:
     void appendEventReceiver(QObject* receiver);
 
 Q_SIGNALS:
+    /// The kernel has added a device; \a dev is its notification, all fields in one run of text.
     void deviceAdded(const QString& dev);
+    /// The kernel has removed a device; \a dev as for deviceAdded().
     void deviceRemoved(const QString& dev);
+    /// Something about a device has changed; \a dev as for deviceAdded().
     void deviceChanged(const QString& dev);
 
 private:

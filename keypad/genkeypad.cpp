@@ -134,6 +134,7 @@ void CGenKeyPad::keyPress(CKeyButton* key)
     report(key);
 }
 
+/// Hands each press of a key to keyPress(). The key gets the event as well.
 bool CGenKeyPad::eventFilter(QObject* watched, QEvent* event)
 {
     return keygrid::filterPress(this, watched, event);

@@ -92,6 +92,7 @@ void CHexKeyPad::keyPress(CKeyButton* key)
         Q_EMIT currentKeyChanged(key->getText(), key->key());
 }
 
+/// Hands each press of a key to keyPress(). The key gets the event as well.
 bool CHexKeyPad::eventFilter(QObject* watched, QEvent* event)
 {
     return keygrid::filterPress(this, watched, event);

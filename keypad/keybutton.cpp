@@ -67,6 +67,7 @@ void CKeyButton::showSymbol(bool on)
     setText(on ? m_symbol : m_keyText);
 }
 
+/// Shows the pressed look.
 void CKeyButton::mousePressEvent(QMouseEvent* event)
 {
     const QPointer<CKeyButton> self(this); // a slot of pressed() may delete the key
@@ -94,6 +95,7 @@ void CKeyButton::mouseDoubleClickEvent(QMouseEvent* event)
     QCoreApplication::sendEvent(this, &press);
 }
 
+/// Paints the button, and on the backspace key an arrow over it.
 void CKeyButton::paintEvent(QPaintEvent* event)
 {
     CPushButton::paintEvent(event);

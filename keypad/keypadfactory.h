@@ -10,6 +10,7 @@
 class QWidget;
 
 /// Asks the user for a text: pops up a keypad over the active window and waits until it closes.
+/// However it is closed, the caller gets what stands in its entry field.
 class CWIDGET_EXPORT CKeyPadFactory
 {
     Q_GADGET

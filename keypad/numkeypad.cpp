@@ -111,6 +111,7 @@ void CNumKeyPad::keyPress(CKeyButton* key)
         Q_EMIT currentKeyChanged(key->getText(), key->key());
 }
 
+/// Hands each press of a key to keyPress(). The key gets the event as well.
 bool CNumKeyPad::eventFilter(QObject* watched, QEvent* event)
 {
     return keygrid::filterPress(this, watched, event);

@@ -14,6 +14,7 @@ class CWIDGET_EXPORT CNumKeyPad : public CAbstractKeyPad
     Q_OBJECT
 
 public:
+    /// Which numbers the grid is for.
     enum Mode : int {
         BinaryMode = 0,   ///< without the digits 2 to 9
         UnsignedMode = 1, ///< without the sign

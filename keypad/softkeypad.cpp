@@ -250,6 +250,7 @@ void CSoftKeyPad::changeText()
     m_edit->blockSignals(blocked);
 }
 
+/// Paints the dialog black.
 void CSoftKeyPad::paintEvent(QPaintEvent* event)
 {
     QDialog::paintEvent(event);

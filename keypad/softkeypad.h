@@ -29,6 +29,7 @@ public:
     CKeyPadFactory::KeyPadType skpType() const;
     void setSKPType(CKeyPadFactory::KeyPadType type);
     void setRange(int min, int max);
+    /// Stores the texts and switches the check on; the check compares with the integer bounds.
     void setRange(const QString& min, const QString& max);
     void setText(const QString& title, const QString& text);
 

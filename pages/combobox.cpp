@@ -405,6 +405,7 @@ void CComboBox::itemActivated(const QString& text)
         Q_EMIT activated(index);
 }
 
+/// Paints Qt's combo box, and if wanted a frame of one pixel.
 void CComboBox::paintEvent(QPaintEvent* event)
 {
     QComboBox::paintEvent(event);

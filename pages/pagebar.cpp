@@ -225,6 +225,7 @@ void CPageBar::turnTo(int index)
     Q_EMIT pageChanged(m_currentIndex);
 }
 
+/// Paints background and border, then "Page 1 of 3", turned in a vertical bar.
 void CPageBar::paintEvent(QPaintEvent* event)
 {
     CWidget::paintEvent(event);

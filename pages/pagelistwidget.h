@@ -33,6 +33,7 @@ public:
     QStringList items() const;
     void setItems(const QStringList& texts);
     void addItems(const QStringList& texts);
+    /// Appends a text, and then rows for the whole table once more: to fill a list, use addItems().
     void addItem(const QString& text);
     void clear();
 
@@ -62,6 +63,7 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// A row was touched and let go; its text, and then its index in the list of texts.
     void currentItemChanged(const QString& text);
+    /// A row was touched and let go: its index in the list of texts. The text came before.
     void currentItemChanged(int index);
 
 private:

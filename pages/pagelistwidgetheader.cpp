@@ -17,6 +17,7 @@ CPageListWidgetHeader::CPageListWidgetHeader(QWidget* parent) : CWidget(parent)
     initialize();
 }
 
+/// A header with the given texts.
 CPageListWidgetHeader::CPageListWidgetHeader(const QString& title, const QString& text,
                                              QWidget* parent)
     : CWidget(parent), m_title(title), m_text(text)
@@ -65,6 +66,7 @@ void CPageListWidgetHeader::setText(const QString& text)
     update();
 }
 
+/// Paints the title at the top left and the text at the bottom right.
 void CPageListWidgetHeader::paintEvent(QPaintEvent* event)
 {
     CWidget::paintEvent(event);

@@ -74,6 +74,7 @@ void CPageListWidgetItem::setIndex(int index)
     m_index = index;
 }
 
+/// The text of the row.
 QString CPageListWidgetItem::text() const
 {
     return m_text;
@@ -142,6 +143,7 @@ void CPageListWidgetItem::clear()
     update();
 }
 
+/// Paints the highlight, the icon at the left border and the text, right-aligned.
 void CPageListWidgetItem::paintEvent(QPaintEvent* event)
 {
     CWidget::paintEvent(event);

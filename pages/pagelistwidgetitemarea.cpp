@@ -241,6 +241,7 @@ QSize CPageListWidgetItemArea::rowSize() const
     return QSize(qMax(0, width() - rowMargins), rowHeight);
 }
 
+/// Remembers the row that was touched.
 void CPageListWidgetItemArea::mousePressEvent(QMouseEvent* event)
 {
     CWidget::mousePressEvent(event);
@@ -277,6 +278,7 @@ void CPageListWidgetItemArea::choose(CPageListWidgetItem* item)
         Q_EMIT currentItemChanged(m_currentIndex);
 }
 
+/// Highlights the row under the finger or the mouse.
 void CPageListWidgetItemArea::mouseMoveEvent(QMouseEvent* event)
 {
     CWidget::mouseMoveEvent(event);

@@ -48,6 +48,7 @@ public Q_SLOTS:
 Q_SIGNALS:
     /// A row was touched and let go; its text, and then its index in the owner's list of texts.
     void currentItemChanged(const QString& text);
+    /// A row was touched and let go: its index. The text came before.
     void currentItemChanged(int index);
 
 protected:

@@ -34,6 +34,7 @@ class CWIDGET_EXPORT CParmField
     Q_ENUMS(Proportion)
 
 public:
+    /// How the width of a parameter field is split, name to value.
     enum Proportion
 #ifndef Q_MOC_RUN // Qt 4's reads no underlying type
         : int

@@ -183,6 +183,7 @@ void CParmLineEdit::setEnable(bool enabled)
     m_lineEdit->setEnabled(enabled);
 }
 
+/// Splits the new width in the proportion of the last setWidth().
 void CParmLineEdit::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);

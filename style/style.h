@@ -19,6 +19,7 @@ struct Style {
     {
     }
 
+    /// the part that this entry styles
     Field field;
     QFont font;           ///< a default font when the style file names none
     QColor foreground;    ///< colour of texts; left out, it is invalid and clears a field's own

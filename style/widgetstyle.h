@@ -72,6 +72,7 @@ public:
         DownPressed = 9, DownReleased = 10, DownSelected = 11
     };
 
+    /// Pictures of a lock.
     enum LockStatus : int { Locked = 0 };
 
     /// Tiles of the application grid.
@@ -82,6 +83,7 @@ public:
         App18 = 18, App19 = 19, App20 = 20, App21 = 21, App22 = 22, App23 = 23
     };
 
+    /// Pictures of a close button.
     enum CloseStatus : int { ClosePressed = 0, CloseReleased = 1, CloseSelected = 2 };
 
     /// Grounds of a menu entry.
@@ -90,6 +92,7 @@ public:
     /// Strength of the wireless signal in percent.
     enum WIFISignalStatus : int { Signal0 = 0, Signal25 = 1, Signal50 = 2, Signal75 = 3, Signal100 = 4 };
 
+    /// Signs for a closer and a wider look.
     enum ZoomStatus : int {
         ZoomInPressed = 0,  ZoomInReleased = 1,  ZoomInSelected = 2,
         ZoomOutPressed = 3, ZoomOutReleased = 4, ZoomOutSelected = 5
@@ -101,6 +104,7 @@ public:
         WhiteArrowB = 4, WhiteArrowA = 5
     };
 
+    /// Signs for slides before and after.
     enum SlidStatus : int {
         SlidPrevPressed = 0, SlidPrevReleased = 1, SlidPrevSelected = 2,
         SlidNextPressed = 3, SlidNextReleased = 4, SlidNextSelected = 5
@@ -126,6 +130,7 @@ public:
         Color27 = 27,          Color28 = 28
     };
 
+    /// Fonts of the theme, see getFont().
     enum FontType : int { Font0 = 0, Font1 = 1, Font2 = 2, Font3 = 3, Font4 = 4, Font5 = 5, Font6 = 6 };
 
     /// Areas that the 800 x 600 screen is divided into.

@@ -142,6 +142,7 @@ void CCheckBox::setWidgetStyle(WidgetStyle style)
     stylewalk::setFont(this, m_autoStyleEnabled, style);
 }
 
+/// Changes the state at once and emits stateChanged(). Lifting the finger does nothing more.
 void CCheckBox::mousePressEvent(QMouseEvent* event)
 {
     const QPointer<CCheckBox> self(this); // a slot of pressed() may delete the box
@@ -184,12 +185,14 @@ void CCheckBox::checkStateSet()
 {
 }
 
+/// Places the box, by the height alone.
 void CCheckBox::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     m_box = boxRect(height());
 }
 
+/// Paints background, box, tick, caption and frame.
 void CCheckBox::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event);

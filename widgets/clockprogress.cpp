@@ -143,6 +143,7 @@ void CClockProgress::roll()
     COUNT = (COUNT + 1) % frameCount;
 }
 
+/// Paints the clock in the middle, and over it the text of the format.
 void CClockProgress::paintEvent(QPaintEvent* event)
 {
     CWidget::paintEvent(event);

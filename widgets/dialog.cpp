@@ -90,6 +90,7 @@ void CDialog::setBackgroundColor(const QColor& color)
     update();
 }
 
+/// Paints background and border.
 void CDialog::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);

@@ -88,6 +88,7 @@ void CGraphicsView::setHeight(int height)
     setFixedHeight(height);
 }
 
+/// Paints background and border, and the scene over both.
 void CGraphicsView::paintEvent(QPaintEvent* event)
 {
     {

@@ -147,17 +147,20 @@ void CLabel::setWidgetStyle(WidgetStyle style)
     stylewalk::setFont(this, m_autoStyleEnabled, style);
 }
 
+/// Does what every widget does; the click comes with the release.
 void CLabel::mousePressEvent(QMouseEvent* event)
 {
     QWidget::mousePressEvent(event);
 }
 
+/// Emits clicked().
 void CLabel::mouseReleaseEvent(QMouseEvent* event)
 {
     QWidget::mouseReleaseEvent(event);
     Q_EMIT clicked();
 }
 
+/// Paints background and border, the text and the corner text.
 void CLabel::paintEvent(QPaintEvent* event)
 {
     CWidget::paintEvent(event);

@@ -24,6 +24,7 @@ class CWIDGET_EXPORT CLabel : public CWidget
     Q_ENUMS(WrapMode)
 
 public:
+    /// How a text that is too long for the label is broken.
     enum WrapMode
 #ifndef Q_MOC_RUN // Qt 4's reads no underlying type
         : int

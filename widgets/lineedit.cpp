@@ -194,6 +194,7 @@ QString CLineEdit::askKeyPad()
     return CKeyPadFactory::accessKeyPad(m_title, text(), m_skpType, this);
 }
 
+/// Paints Qt's line edit, and if wanted a frame of one pixel.
 void CLineEdit::paintEvent(QPaintEvent* event)
 {
     QLineEdit::paintEvent(event);

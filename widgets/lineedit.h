@@ -8,7 +8,8 @@
 #include <QLineEdit>
 
 /// A field for one line of text on a touch screen. Without a keyboard attached, touching it opens a
-/// keypad; textEdited() tells that the keypad has closed and the field holds its text.
+/// keypad; textEdited() tells that the keypad has closed and the field holds its text. That is so
+/// for a read-only field, too, and however the keypad was closed: it has no way to cancel.
 class CWIDGET_EXPORT CLineEdit : public QLineEdit
 {
     Q_OBJECT
@@ -33,6 +34,7 @@ public:
     CKeyPadFactory::KeyPadType skpType() const;
     void setSKPType(CKeyPadFactory::KeyPadType type);
     void setRange(int min, int max);
+    /// Stores the texts and switches the check on; the check compares with the integer bounds.
     void setRange(const QString& min, const QString& max);
     bool isRangeEnabled() const;
     void setRangeEnabled(bool enabled);

@@ -182,6 +182,7 @@ QColor CProgressBar::getCurrentColor() const
     return QColor(Qt::red);
 }
 
+/// Paints the box and, in the colour of the value, what is done.
 void CProgressBar::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);

@@ -285,6 +285,7 @@ void CPushButton::setWidgetStyle(WidgetStyle style)
     stylewalk::setFont(this, m_autoStyleEnabled, style);
 }
 
+/// Shows the pressed look, if enabled.
 void CPushButton::mousePressEvent(QMouseEvent* event)
 {
     const QPointer<CPushButton> self(this); // a slot of pressed() may delete the button
@@ -296,6 +297,7 @@ void CPushButton::mousePressEvent(QMouseEvent* event)
         updateStatus(Pressed);
 }
 
+/// Shows the released look, wherever the finger is lifted, also on a selected button.
 void CPushButton::mouseReleaseEvent(QMouseEvent* event)
 {
     const QPointer<CPushButton> self(this); // a slot of clicked() may delete the button
@@ -324,6 +326,7 @@ const char* CPushButton::heldSignal(const char* signal) const
     return painting::isOpaque(m_backgroundColor) && !slotsCome ? signal : 0;
 }
 
+/// Paints background, border, picture, icon and text, in this order.
 void CPushButton::paintEvent(QPaintEvent* event)
 {
     if (!painting::isOpaque(m_backgroundColor)) // else nothing of it is seen

@@ -35,6 +35,7 @@ class CWIDGET_EXPORT CPushButton : public QPushButton
     Q_ENUMS(ButtonStyle)
 
 public:
+    /// What the button shows.
     enum ButtonState : int {
         Pressed = 0,
         Released = 1,
@@ -51,6 +52,7 @@ public:
         SelectedTextColor = 6
     };
 
+    /// Ready-made sets of pictures.
     enum ButtonStyle
 #ifndef Q_MOC_RUN // Qt 4's reads no underlying type
         : int

@@ -54,6 +54,7 @@ QSize CTopTitleArea::minimumSizeHint() const
     return QSize(0, sizeHint().height());
 }
 
+/// Paints background and border, and the title.
 void CTopTitleArea::paintEvent(QPaintEvent* event)
 {
     CWidget::paintEvent(event);

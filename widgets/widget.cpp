@@ -244,6 +244,7 @@ void CWidget::unlockWidget()
     setEnabled(true);
 }
 
+/// Paints background colour, background picture and border, in this order.
 void CWidget::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
@@ -269,6 +270,7 @@ void CWidget::drawBorder(QPainter* painter)
     painting::drawBorder(painter, size(), m_borderWidth, m_borderColor, m_backgroundColor);
 }
 
+/// With auto-management on, hides the screen that is at the top of the stack and takes its place.
 void CWidget::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);

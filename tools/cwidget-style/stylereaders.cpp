@@ -14,7 +14,7 @@ const Reader readers[] = {
     {"CCheckBox",               WhenConstructed, {Nothing, Nothing, Font}},
     {"CLineEdit",               WhenConstructed, {Nothing, Nothing, Font}},
     {"CComboBox",               WhenConstructed, {Nothing, Nothing, Font}},
-    {"CTopTitleArea",           WhenUpdated,     {Nothing, Nothing, Font}},
+    {"CTopTitleArea",           WhenConstructed, {Nothing, Nothing, Font}},
     {"CPageBar",                WhenConstructed, {Nothing, Nothing, Font}},
     {"CPageWidget",             WhenConstructed, {Nothing, Nothing, Font}},
     {"CParmLabel",              WhenConstructed, {All,     Font,    All}},
