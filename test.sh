@@ -51,6 +51,7 @@ fi
 
 test_packages="clang-format-14 xvfb openbox xdotool x11-utils usbutils util-linux"
 device_packages="qemu-system-x86 busybox-static kmod udev usbutils util-linux e2fsprogs python3"
+test_packages+=" doxygen qttools5-dev-tools"
 # shellcheck disable=SC2046,SC2086
 cwidget_install $(cwidget_build_packages "$qt") $(cwidget_run_packages "$qt") \
     $(cwidget_designer_packages "$qt") $test_packages
