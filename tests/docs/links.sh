@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# links.sh SOURCE: every relative link and picture of README.md, CONTRIBUTING.md and docs/ leads to
+# a file, and the guide's page of contents leads to every page.
+set -euo pipefail
+cd "$1"
+status=0
+total=0
+for page in README.md CONTRIBUTING.md docs/*.md; do
+    while IFS= read -r link; do
+        total=$((total + 1))
+        if [ ! -e "$(dirname "$page")/$link" ]; then
+            echo "$page leads to $link, which is not there" >&2
+            status=1
+        fi
+    done < <(grep -o '](\([^)]*\))' "$page" | sed 's/^](//; s/)$//; s/#.*//' | grep -v '^https\?:' | grep . || true)
+done
+for page in docs/*.md; do
+    name=$(basename "$page")
+    if [ "$name" != guide.md ] && ! grep -q "($name)" docs/guide.md; then
+        echo "docs/guide.md does not lead to $name" >&2
+        status=1
+    fi
+done
+test "$total" -ge 30
+echo "$total links"
+exit $status
