@@ -6,7 +6,11 @@
 
 #include "allclasses.h"
 
+#if __has_include(<QtWidgets>)
 #include <QtWidgets>
+#else
+#include <QtGui> // Qt 4
+#endif
 
 class Page : public CWidget
 {

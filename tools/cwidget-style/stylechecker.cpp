@@ -1,9 +1,9 @@
 #include "stylechecker.h"
 
 #include "nearest.h"
-#include "xmltext.h"
 
 #include "style/qtcompat.h"
+#include "style/xmlguard_p.h"
 
 #include <QDomDocument>
 #include <QFontDatabase>
@@ -52,6 +52,37 @@ QString readAllTheSame()
     return QLatin1String(" (the Qt of this machine reads the file all the same, others refuse it)");
 }
 
+/// Where the first entity is declared, or else the document type begins.
+int entityIn(const QString& text)
+{
+    const int declaration = static_cast<int>(text.indexOf(QLatin1String("<!ENTITY")));
+    return qMax(0, declaration >= 0 ? declaration
+                                    : static_cast<int>(text.indexOf(QLatin1String("<!DOCTYPE"))));
+}
+
+/// What is wrong up to the end of the document type in \a text; empty when nothing is.
+QString errorInDoctype(const QString& text)
+{
+    QXmlStreamReader reader(text);
+    while (!reader.atEnd() && reader.tokenType() != QXmlStreamReader::DTD)
+        reader.readNext();
+    return reader.hasError() ? reader.errorString() : QString();
+}
+
+/// The end of the first tag that goes deeper than the library does; 0 when no element does.
+int tooDeepIn(const QString& text)
+{
+    QXmlStreamReader reader(text);
+    for (int depth = 0; !reader.atEnd();) {
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        if (token == QXmlStreamReader::StartElement && ++depth > xmlguard::maximumDepth)
+            return static_cast<int>(reader.characterOffset());
+        if (token == QXmlStreamReader::EndElement)
+            --depth;
+    }
+    return 0;
+}
+
 bool earlier(const Finding& a, const Finding& b)
 {
     return a.line != b.line ? a.line < b.line : a.column < b.column;
@@ -84,20 +115,38 @@ Findings StyleChecker::check(const QByteArray& content)
     m_findings.clear();
     m_widgets.clear();
     m_families.clear();
-    const QString refusal = xmltext::refusal(content);
-    if (!refusal.isEmpty()) {
-        m_findings.append(Finding(0, 0, Finding::Error, "too-large", refusal));
+    const QString text = qtcompat::xmlText(content);
+    m_positions = Positions(text);
+    if (isRefused(text))
         return m_findings;
-    }
-    readDocument(xmltext::decoded(content));
+    readDocument(text);
     checkTree(content);
     std::stable_sort(m_findings.begin(), m_findings.end(), earlier);
     return m_findings;
 }
 
+/// Notes why the library refuses \a text unread, if it does. Of a document type that is torn it
+/// assumes the dearest; then that is what to say.
+bool StyleChecker::isRefused(const QString& text)
+{
+    const xmlguard::Cost cost = xmlguard::cost(text);
+    const bool isTooLarge = cost.expansion > xmlguard::maximumExpansion;
+    const QString torn = isTooLarge ? errorInDoctype(text) : QString();
+    if (isTooLarge && torn.isEmpty())
+        add(entityIn(text), Finding::Error, "entity-too-large",
+            QLatin1String("entity too large: more than 4 Mi characters would come of entities, so "
+                          "the library refuses the file"));
+    else if (isTooLarge)
+        add(entityIn(text), Finding::Error, "not-well-formed",
+            QString::fromLatin1("not well-formed: %1").arg(torn));
+    else if (cost.depth > xmlguard::maximumDepth)
+        add(m_positions.tagBefore(tooDeepIn(text)), Finding::Error, "too-deep",
+            QLatin1String("too deep: beyond 5,000 levels the library refuses the file"));
+    return !m_findings.isEmpty();
+}
+
 void StyleChecker::readDocument(const QString& text)
 {
-    m_positions = Positions(text);
     m_reader.clear();
     m_reader.setNamespaceProcessing(false);
     m_reader.addData(text);

@@ -34,6 +34,7 @@ private:
         Leaf
     };
 
+    bool isRefused(const QString& text);
     void readDocument(const QString& text);
     void readRoot();
     void readWidget();
