@@ -3,8 +3,8 @@
 #include <QBuffer>
 
 /// The fields of \a datagram, which NUL bytes end, as one run of text without anything between
-/// them. White space around a field is dropped. \a buffer is where the fields are read from, one by
-/// one; it is left open.
+/// them. White space around a field is dropped. \a buffer gets the fields, as lines; it is left
+/// open.
 QByteArray uevent::joinedFields(const QByteArray& datagram, QBuffer* buffer)
 {
     QByteArray lines = datagram;
@@ -14,9 +14,15 @@ QByteArray uevent::joinedFields(const QByteArray& datagram, QBuffer* buffer)
     buffer->setData(lines.trimmed());
     buffer->open(QIODevice::ReadOnly);
 
+    const QByteArray& text = buffer->data();
     QByteArray joined;
-    while (!buffer->atEnd())
-        joined += buffer->readLine().trimmed();
+    for (int from = 0; from < text.size();) {
+        int end = static_cast<int>(text.indexOf('\n', from));
+        if (end < 0)
+            end = static_cast<int>(text.size());
+        joined += text.mid(from, end - from).trimmed();
+        from = end + 1;
+    }
     return joined;
 }
 

@@ -33,7 +33,7 @@ CharacterLayout::CharacterLayout(QPainter* painter, const QRect& area, int lineH
 void CharacterLayout::drawCharWrapped(const QString& text)
 {
     for (int i = 0; i < text.size(); ++i) {
-        while (!fits(qtcompat::charWidth(m_metrics, text.at(i)))) {
+        while (!fits(widthOf(text.at(i)))) {
             if (!startLine())
                 return;
         }
@@ -53,7 +53,7 @@ void CharacterLayout::drawWordWrapped(const QString& text)
         const QChar ch = text.at(i);
         if (isSeparator(ch) && !fits(widthOfWordAfter(text, i)) && !startLine())
             return;
-        if (fits(qtcompat::charWidth(m_metrics, ch))) {
+        if (fits(widthOf(ch))) {
             draw(ch);
             ++i;
             continue;
@@ -79,9 +79,18 @@ bool CharacterLayout::startLine()
     return m_y <= m_area.bottom();
 }
 
+/// The advance of \a ch, which is measured once.
+int CharacterLayout::widthOf(QChar ch)
+{
+    QHash<QChar, int>::const_iterator found = m_widths.constFind(ch);
+    if (found == m_widths.constEnd())
+        found = m_widths.insert(ch, qtcompat::charWidth(m_metrics, ch));
+    return found.value();
+}
+
 void CharacterLayout::draw(QChar ch)
 {
-    const int width = qtcompat::charWidth(m_metrics, ch);
+    const int width = widthOf(ch);
     m_painter->drawText(QRect(m_x, m_y, width, m_lineHeight), Qt::AlignCenter, QString(ch));
     m_x += width;
     m_lineWidth += width;
@@ -97,9 +106,9 @@ int CharacterLayout::widthOfWordAfter(const QString& text, int separator) const
 
 /// The nearest separator at or before \a from, or -1 when the line, counted down by the width of
 /// the character at \a from, or the text begins before one is found.
-int CharacterLayout::lookBack(const QString& text, int from) const
+int CharacterLayout::lookBack(const QString& text, int from)
 {
-    const int step = qtcompat::charWidth(m_metrics, text.at(from));
+    const int step = widthOf(text.at(from));
     int lineWidth = m_lineWidth;
     for (int i = from; i >= 0; --i) {
         if (isSeparator(text.at(i)))

@@ -2,6 +2,7 @@
 #define CWIDGET_WIDGETS_CHARACTERLAYOUT_P_H
 
 #include <QFontMetrics>
+#include <QHash>
 #include <QRect>
 #include <QString>
 
@@ -20,9 +21,10 @@ public:
 private:
     bool fits(int width) const;
     bool startLine();
+    int widthOf(QChar ch);
     void draw(QChar ch);
     int widthOfWordAfter(const QString& text, int separator) const;
-    int lookBack(const QString& text, int from) const;
+    int lookBack(const QString& text, int from);
 
     QPainter* m_painter;
     QFontMetrics m_metrics;
@@ -31,6 +33,7 @@ private:
     int m_x;
     int m_y;
     int m_lineWidth;
+    QHash<QChar, int> m_widths;
 };
 
 #endif
