@@ -1,5 +1,6 @@
 #include "style/widgetstyle.h"
 
+#include "style/filerewrite_p.h"
 #include "style/qtcompat.h"
 #include "style/xmlguard_p.h"
 
@@ -130,20 +131,6 @@ bool isReadable(const QByteArray& content)
     return parse(content, &document);
 }
 
-bool writeContent(QFile* file, const QByteArray& content)
-{
-    return file->write(content) == content.size() && file->flush() &&
-           file->error() == QFile::NoError;
-}
-
-/// Puts \a content back where writing another one has failed.
-void restoreFile(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        writeContent(&file, content);
-}
-
 /// Gives every font of every field in \a document the family of \a font. False when there is none.
 bool setFamily(const QDomDocument& document, const QFont& font)
 {
@@ -239,6 +226,10 @@ WidgetStyle CWidgetStyle::getWidgetStyle(unsigned int& type, bool* ok)
 /// without any font to change is left alone, and so is one that cannot be opened, parsed or opened
 /// for writing, or that could not be parsed any more afterwards, which is told on the debug
 /// channel. When writing fails halfway, for example on a full disk, the old content is put back.
+///
+/// When this returns true, the new file is on the disk. When the power fails before, the file is the
+/// old one or the new one, whole; one with several names or extended attributes, or in a folder
+/// where no other file can be made, may be empty or incomplete then.
 bool CWidgetStyle::setWidgetStyle(const QString& path, const QFont& font)
 {
     QByteArray content;
@@ -259,15 +250,11 @@ bool CWidgetStyle::setWidgetStyle(const QString& path, const QFont& font)
         return false;
     }
     QFile file(path);
-    if (!file.open(QIODevice::ReadWrite | QIODevice::Truncate)) {
+    if (!file.open(QIODevice::ReadWrite)) { // emptied only when nothing better can be done
         qDebug("%s", rewriteWriteFailed);
         return false;
     }
-    if (writeContent(&file, newContent))
-        return true;
-    file.close(); // drops what could not be written
-    restoreFile(path, content);
-    return false;
+    return filerewrite::rewrite(&file, newContent, content);
 }
 
 /// Gives the first "font" child of \a element the family of \a font. Returns false, and does
