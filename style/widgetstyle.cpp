@@ -227,8 +227,8 @@ WidgetStyle CWidgetStyle::getWidgetStyle(unsigned int& type, bool* ok)
 /// for writing, or that could not be parsed any more afterwards, which is told on the debug
 /// channel. When writing fails halfway, for example on a full disk, the old content is put back.
 ///
-/// When this returns true, the new file is on the disk. When the power fails before, the file is the
-/// old one or the new one, whole; one with several names or extended attributes, or in a folder
+/// When this returns true, the new file is on the disk. When the power fails before, the file is
+/// the old one or the new one, whole; one with several names or extended attributes, or in a folder
 /// where no other file can be made, may be empty or incomplete then.
 bool CWidgetStyle::setWidgetStyle(const QString& path, const QFont& font)
 {

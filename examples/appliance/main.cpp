@@ -32,7 +32,7 @@ namespace
 const int margin = 20;
 const int fieldWidth = 700;
 const int tickInterval = 250; // ms
-const int servicePage = 3;
+const int servicePage = 2;
 const int recipeCount = 48;
 
 // The kinds of device that the title has a sign for.
@@ -65,12 +65,12 @@ const struct Setting {
     {1, "measurement/unit",    "Unit",             "ml",         "ml|g|oz",     CKeyPadFactory::SKP_GENERAL, 0,     0},
     {1, "measurement/target",  "Amount per dose",  "250",        0,             CKeyPadFactory::SKP_DECIMAL, 10,    500},
     {1, "measurement/rate",    "Rate, per second", "20",         0,             CKeyPadFactory::SKP_DECIMAL, 1,     100},
-    {3, "service/code",        "Service code",     "0",          0,             CKeyPadFactory::SKP_HEX,     0,     0xFFFF},
-    {3, "service/offset",      "Sensor offset",    "0",          0,             CKeyPadFactory::SKP_DECIMAL, -50,   50},
+    {2, "service/code",        "Service code",     "0",          0,             CKeyPadFactory::SKP_HEX,     0,     0xFFFF},
+    {2, "service/offset",      "Sensor offset",    "0",          0,             CKeyPadFactory::SKP_DECIMAL, -50,   50},
     // clang-format on
 };
 
-const char* const pageTitles[] = {"Network", "Measurement", "Recipes", "Service"};
+const char* const pageTitles[] = {"Network", "Measurement", "Service", "Recipes"};
 const int pageCount = sizeof pageTitles / sizeof pageTitles[0];
 
 QString latin(const char* text)
@@ -199,10 +199,10 @@ Appliance::Appliance(const QString& settingsFile)
         }
         if (i == 1)
             addMeasurement(page);
-        else if (i == 2)
-            addRecipes(page);
         else if (i == servicePage)
             addService(page);
+        else if (i == 3)
+            addRecipes(page);
         page->addStretch();
     }
     connect(m_timer, SIGNAL(timeout()), this, SLOT(dose()));
@@ -312,7 +312,7 @@ void Appliance::addService(QVBoxLayout* page)
     addField(m_count, "service/doses", page);
     // The switch is on a page that everybody sees.
     QVBoxLayout* const first = qobject_cast<QVBoxLayout*>(m_pages->widget(0)->layout());
-    m_service = new CParmCheckBox(latin("Service page"), latin("shown behind the recipes"), 0);
+    m_service = new CParmCheckBox(latin("Service page"), latin("shown before the recipes"), 0);
     addField(m_service, "service/shown", first);
     m_service->setChecked(value("service/shown") == latin("1"));
     connect(m_service, SIGNAL(stateChanged(int)), this, SLOT(openService(int)));

@@ -8,6 +8,7 @@ import argparse
 import itertools
 import os
 import pathlib
+import shutil
 import signal
 import subprocess
 import sys
@@ -18,16 +19,30 @@ sys.dont_write_bytecode = True
 SOURCE = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(SOURCE / "tests/device"))
 
-from bench import initramfs  # noqa: E402
+from bench import initramfs, powercut  # noqa: E402
 from bench.machine import COUNTED_TIME, PLUGGED  # noqa: E402
 from bench.session import Session, Settings  # noqa: E402
 from scenarios.table import SCENARIOS  # noqa: E402
 
+
+
+def disk_options(settings):
+    """A disk with the style file on it, and a log of its writes."""
+    folder = settings.output / "disk"
+    folder.mkdir(exist_ok=True)
+    shutil.copyfile(settings.style, folder / settings.style.name)
+    disk = settings.output / "disk.img"
+    powercut.make_disk(disk, folder)
+    shutil.copyfile(disk, str(disk) + ".base")
+    return powercut.logged_disk(disk, settings.output / "disk.writes")
+
+
 # The machines that scenarios ask for.
 MACHINES = {
-    "panel": {},
-    "small": {"size": (640, 480), "options": COUNTED_TIME + PLUGGED},
-    "wide": {"size": (1280, 800)},
+    "panel": lambda settings: {},
+    "power": lambda settings: {"options": disk_options(settings)},
+    "small": lambda settings: {"size": (640, 480), "options": COUNTED_TIME + PLUGGED},
+    "wide": lambda settings: {"size": (1280, 800)},
 }
 
 
@@ -84,7 +99,7 @@ class Report:
 def run_machine(report, settings, kind, scenarios):
     """Switches one machine on, and runs its scenarios one after the other."""
     started = time.monotonic()
-    with Session(settings, kind, **MACHINES[kind]) as session:
+    with Session(settings, kind, **MACHINES[kind](settings)) as session:
         session.measurements = report.measurements
         session.start_gallery()
         print("%-24s ready   %5.1f s" % (kind + " machine", time.monotonic() - started), flush=True)

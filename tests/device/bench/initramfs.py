@@ -10,7 +10,7 @@ GUEST = pathlib.Path(__file__).resolve().parent.parent / "guest"
 
 # What the guest loads, beside what these depend on.
 MODULES = """
-virtio_pci virtio_blk virtio_console 9p 9pnet_virtio overlay ext4
+virtio_pci virtio_blk virtio_console 9p 9pnet_virtio overlay crc32c_generic ext4
 bochs xhci_pci usbhid hid_generic evdev uinput usb_storage sd_mod
 """.split()
 

@@ -61,7 +61,8 @@ class Session:
         self.machine.__enter__()
         self.guest = self.machine.guest
         self.guest.run("/lib/systemd/systemd-udevd --daemon && "
-                       "udevadm trigger --subsystem-match=input && udevadm settle")
+                       "udevadm trigger --action=add --subsystem-match=input "
+                       "--subsystem-match=graphics && udevadm settle; chmod 0755 .")
         program = str(self.settings.programs / "touchscreen")
         self.touch = Touch(self.guest, program, self.machine.size)
         self.guest.run("udevadm settle")

@@ -33,8 +33,7 @@ def start(session):
     arguments = [style if word == installed else word for word in arguments]
     assert style in arguments, arguments
     groups = ",".join(settings["SupplementaryGroups"][0].split())
-    session.guest.run("mkdir -p %s && chown %s %s . && udevadm trigger --subsystem-match=graphics "
-                      "--subsystem-match=input && udevadm settle" % (STATE, USER, STATE))
+    session.guest.run("mkdir -p %s && chown %s %s ." % (STATE, USER, STATE))
     session.panel.start(program, *arguments, prefix=" ".join(
         settings["Environment"] + ["/usr/bin/setpriv --reuid=%s --regid=nogroup --groups=%s "
                                    "--no-new-privs --inh-caps=-all" % (USER, groups)]))
@@ -85,13 +84,14 @@ def whole_device(session):
     panel.tap(name="run")
     panel.widget(name="report", text="Kept: service/doses is 1")
     turn_page(session)
+    panel.widget(name="service/doses")
+    session.keep_picture("appliance-service")
+    turn_page(session)
+    panel.widget(name="recipes")
     recipe = panel.widgets(**{"class": "CPageListWidgetItem"})[2]
     session.touch.tap(recipe.center)
     panel.widget(name="report", text="Kept: recipe/name is " + recipe.text)
     session.keep_picture("appliance-recipes")
-    turn_page(session)
-    panel.widget(name="service/doses")
-    session.keep_picture("appliance-service")
     before = kept(session)
     for line in ("mode=Static", "address=10.0.0.7", "shown=1", "target=10", "doses=1",
                  "name=" + recipe.text):
@@ -106,6 +106,8 @@ def whole_device(session):
 def device_is_told(session):
     """A lamp lights up for a keyboard, and nothing at all happens while nothing does."""
     panel = session.panel
+    panel.stop()
+    start(session)
     lamp = panel.widget(name="lamp-Keyboard")
 
     def shown():

@@ -1,6 +1,6 @@
 """All scenarios, in the order in which they run."""
 
-from scenarios import device, measuring, plugging, screens, touching
+from scenarios import device, measuring, plugging, power, screens, touching
 
 # Which machine each needs: the names of run.py's MACHINES.
 SCENARIOS = (
@@ -23,6 +23,7 @@ SCENARIOS = (
     ("memory",               "panel", measuring.memory),
     ("whole-device",         "panel", device.whole_device),
     ("device-is-told",       "panel", device.device_is_told),
+    ("power-cut",            "power", power.cut_while_rewriting),
     ("small-screen",         "small", screens.shows_the_corner),
     ("found-at-the-start",   "small", plugging.found_at_the_start),
     ("mouse-and-storage",    "small", plugging.mouse_and_storage_stay_noted),
