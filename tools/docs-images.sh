@@ -14,7 +14,7 @@ cmake --build "$build" --target quorlin-gallery artwork >/dev/null
 export FONTCONFIG_FILE=$PWD/resources/fonts.conf QT_QPA_PLATFORM=offscreen
 shots=$(mktemp -d)
 trap 'rm -rf "$shots"' EXIT
-"$build/examples/gallery/quorlin-gallery" --shots "$shots" >/dev/null
+"$build/examples/gallery/quorlin-gallery" --shots "$shots" >/dev/null 2>&1
 "$build/resources/artwork/artwork" "$shots/pictures" --contact-sheet docs/images/contact-sheet.png >/dev/null
 
 # The picture of each page, and the screen that it is.
