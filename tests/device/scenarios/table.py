@@ -24,8 +24,8 @@ SCENARIOS = (
     ("whole-device",         "panel", device.whole_device),
     ("device-is-told",       "panel", device.device_is_told),
     ("power-cut",            "power", power.cut_while_rewriting),
-    ("small-screen",         "small", screens.shows_the_corner),
     ("found-at-the-start",   "small", plugging.found_at_the_start),
     ("mouse-and-storage",    "small", plugging.mouse_and_storage_stay_noted),
+    ("small-screen",         "small", screens.shows_the_corner),
     ("wide-screen",          "wide",  screens.shows_the_corner),
 )  # fmt: skip
