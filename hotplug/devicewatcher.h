@@ -1,7 +1,7 @@
 #ifndef CWIDGET_HOTPLUG_DEVICEWATCHER_H
 #define CWIDGET_HOTPLUG_DEVICEWATCHER_H
 
-#include "style/global.h"
+#include "../style/global.h"
 
 #include <QEvent>
 #include <QObject>
@@ -44,7 +44,7 @@ class CWIDGET_EXPORT QDeviceWatcher : public QObject
     Q_OBJECT
 
 public:
-    explicit QDeviceWatcher(QObject* parent = 0);
+    explicit QDeviceWatcher(QObject* parent = nullptr);
     ~QDeviceWatcher() override;
 
     bool start();

@@ -1,7 +1,7 @@
 #ifndef CWIDGET_HOTPLUG_HOTPLUGWATCHER_H
 #define CWIDGET_HOTPLUG_HOTPLUGWATCHER_H
 
-#include "style/global.h"
+#include "../style/global.h"
 
 #include <QString>
 #include <QThread>
@@ -18,7 +18,7 @@ class CWIDGET_EXPORT CHotplugWatcher : public QThread
     Q_OBJECT
 
 public:
-    explicit CHotplugWatcher(QObject* parent = 0);
+    explicit CHotplugWatcher(QObject* parent = nullptr);
     ~CHotplugWatcher() override;
 
     static void detectDevice();

@@ -1,7 +1,7 @@
 #ifndef CWIDGET_KEYPAD_ABSTRACTKEYPAD_H
 #define CWIDGET_KEYPAD_ABSTRACTKEYPAD_H
 
-#include "widgets/widget.h"
+#include "../widgets/widget.h"
 
 /// The base of the grids of keys. A grid tells which key was pressed; what the key does to an entry
 /// is for others to decide.
@@ -15,7 +15,7 @@ class CWIDGET_EXPORT CAbstractKeyPad : public CWidget
     Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
-    explicit CAbstractKeyPad(QWidget* parent = 0);
+    explicit CAbstractKeyPad(QWidget* parent = nullptr);
     ~CAbstractKeyPad() override;
 
 Q_SIGNALS:

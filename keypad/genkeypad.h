@@ -1,7 +1,7 @@
 #ifndef CWIDGET_KEYPAD_GENKEYPAD_H
 #define CWIDGET_KEYPAD_GENKEYPAD_H
 
-#include "keypad/abstractkeypad.h"
+#include "abstractkeypad.h"
 
 #include <QList>
 
@@ -14,7 +14,7 @@ class CWIDGET_EXPORT CGenKeyPad : public CAbstractKeyPad
     Q_OBJECT
 
 public:
-    explicit CGenKeyPad(QWidget* parent = 0);
+    explicit CGenKeyPad(QWidget* parent = nullptr);
     ~CGenKeyPad() override;
 
     bool initialize() override;

@@ -1,7 +1,7 @@
 #ifndef CWIDGET_KEYPAD_HEXKEYPAD_H
 #define CWIDGET_KEYPAD_HEXKEYPAD_H
 
-#include "keypad/abstractkeypad.h"
+#include "abstractkeypad.h"
 
 #include <QList>
 
@@ -13,7 +13,7 @@ class CWIDGET_EXPORT CHexKeyPad : public CAbstractKeyPad
     Q_OBJECT
 
 public:
-    explicit CHexKeyPad(QWidget* parent = 0);
+    explicit CHexKeyPad(QWidget* parent = nullptr);
     ~CHexKeyPad() override;
 
     bool initialize() override;

@@ -1,8 +1,8 @@
 #ifndef CWIDGET_KEYPAD_KEYBUTTON_H
 #define CWIDGET_KEYPAD_KEYBUTTON_H
 
-#include "keypad/keycodes.h"
-#include "widgets/pushbutton.h"
+#include "../widgets/pushbutton.h"
+#include "keycodes.h"
 
 /// A key of a keypad: a push button with a code, a text, and a symbol that it may show instead.
 /// Once touched it looks selected until its keypad selects another one. The backspace key draws an
@@ -15,7 +15,7 @@ class CWIDGET_EXPORT CKeyButton : public CPushButton
     Q_PROPERTY(QString symbol READ getSymbol WRITE setSymbol)
 
 public:
-    explicit CKeyButton(QWidget* parent = 0);
+    explicit CKeyButton(QWidget* parent = nullptr);
     ~CKeyButton() override;
 
     int key() const;

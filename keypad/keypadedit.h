@@ -1,7 +1,7 @@
 #ifndef CWIDGET_KEYPAD_KEYPADEDIT_H
 #define CWIDGET_KEYPAD_KEYPADEDIT_H
 
-#include "keypad/keypadfactory.h"
+#include "keypadfactory.h"
 
 #include <QTextEdit>
 
@@ -14,7 +14,7 @@ class CWIDGET_EXPORT CKeyPadEdit : public QTextEdit
     Q_OBJECT
 
 public:
-    explicit CKeyPadEdit(QWidget* parent = 0);
+    explicit CKeyPadEdit(QWidget* parent = nullptr);
     ~CKeyPadEdit() override;
 
     void setSKPType(CKeyPadFactory::KeyPadType type);

@@ -1,7 +1,7 @@
 #ifndef CWIDGET_KEYPAD_KEYPADFACTORY_H
 #define CWIDGET_KEYPAD_KEYPADFACTORY_H
 
-#include "style/global.h"
+#include "../style/global.h"
 
 #include <QMetaType>
 #include <QObject>
@@ -33,11 +33,11 @@ public:
     CKeyPadFactory() = delete;
 
     static QString accessKeyPad(const QString& title, const QString& text, KeyPadType type, int min,
-                                int max, QWidget* parent = 0);
+                                int max, QWidget* parent = nullptr);
     static QString accessKeyPad(const QString& title, const QString& text, KeyPadType type,
-                                const QString& min, const QString& max, QWidget* parent = 0);
+                                const QString& min, const QString& max, QWidget* parent = nullptr);
     static QString accessKeyPad(const QString& title, const QString& text, KeyPadType type,
-                                QWidget* parent = 0);
+                                QWidget* parent = nullptr);
 };
 
 Q_DECLARE_METATYPE(CKeyPadFactory::KeyPadType)

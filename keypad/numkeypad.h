@@ -1,7 +1,7 @@
 #ifndef CWIDGET_KEYPAD_NUMKEYPAD_H
 #define CWIDGET_KEYPAD_NUMKEYPAD_H
 
-#include "keypad/abstractkeypad.h"
+#include "abstractkeypad.h"
 
 #include <QList>
 
@@ -22,7 +22,7 @@ public:
     };
 
     explicit CNumKeyPad(QWidget* parent);
-    explicit CNumKeyPad(Mode mode, QWidget* parent = 0);
+    explicit CNumKeyPad(Mode mode, QWidget* parent = nullptr);
     ~CNumKeyPad() override;
 
     bool initialize() override;

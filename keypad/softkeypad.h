@@ -1,8 +1,8 @@
 #ifndef CWIDGET_KEYPAD_SOFTKEYPAD_H
 #define CWIDGET_KEYPAD_SOFTKEYPAD_H
 
-#include "keypad/keycodes.h"
-#include "keypad/keypadfactory.h"
+#include "keycodes.h"
+#include "keypadfactory.h"
 
 #include <QDialog>
 
@@ -19,8 +19,8 @@ class CWIDGET_EXPORT CSoftKeyPad : public QDialog
     Q_PROPERTY(CKeyPadFactory::KeyPadType keypadType READ skpType WRITE setSKPType)
 
 public:
-    explicit CSoftKeyPad(QWidget* parent = 0);
-    explicit CSoftKeyPad(CKeyPadFactory::KeyPadType type, QWidget* parent = 0);
+    explicit CSoftKeyPad(QWidget* parent = nullptr);
+    explicit CSoftKeyPad(CKeyPadFactory::KeyPadType type, QWidget* parent = nullptr);
     ~CSoftKeyPad() override;
 
     bool initialize();

@@ -1,8 +1,8 @@
 #ifndef CWIDGET_PAGES_COMBOBOX_H
 #define CWIDGET_PAGES_COMBOBOX_H
 
-#include "style/global.h"
-#include "style/style.h"
+#include "../style/global.h"
+#include "../style/style.h"
 
 #include <QComboBox>
 #include <QList>
@@ -25,7 +25,7 @@ class CWIDGET_EXPORT CComboBox : public QComboBox
     Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
-    explicit CComboBox(QWidget* parent = 0);
+    explicit CComboBox(QWidget* parent = nullptr);
     ~CComboBox() override;
 
     QStringList items() const;

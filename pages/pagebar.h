@@ -1,8 +1,8 @@
 #ifndef CWIDGET_PAGES_PAGEBAR_H
 #define CWIDGET_PAGES_PAGEBAR_H
 
-#include "style/widgetstyle.h"
-#include "widgets/widget.h"
+#include "../style/widgetstyle.h"
+#include "../widgets/widget.h"
 
 class CPushButton;
 
@@ -21,7 +21,7 @@ class CWIDGET_EXPORT CPageBar : public CWidget
     Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
-    explicit CPageBar(QWidget* parent = 0,
+    explicit CPageBar(QWidget* parent = nullptr,
                       CWidgetStyle::PageBarType type = CWidgetStyle::HorizontalPageBar);
     ~CPageBar() override;
 

@@ -1,7 +1,7 @@
 #ifndef CWIDGET_PAGES_PAGELISTWIDGET_H
 #define CWIDGET_PAGES_PAGELISTWIDGET_H
 
-#include "widgets/widget.h"
+#include "../widgets/widget.h"
 
 #include <QList>
 #include <QStringList>
@@ -27,7 +27,7 @@ class CWIDGET_EXPORT CPageListWidget : public CWidget
     Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
-    explicit CPageListWidget(QWidget* parent = 0);
+    explicit CPageListWidget(QWidget* parent = nullptr);
     ~CPageListWidget() override;
 
     QStringList items() const;

@@ -1,7 +1,7 @@
 #ifndef CWIDGET_PAGES_PAGELISTWIDGETHEADER_H
 #define CWIDGET_PAGES_PAGELISTWIDGETHEADER_H
 
-#include "widgets/widget.h"
+#include "../widgets/widget.h"
 
 class QPainter;
 
@@ -19,8 +19,8 @@ class CWIDGET_EXPORT CPageListWidgetHeader : public CWidget
     Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
-    explicit CPageListWidgetHeader(QWidget* parent = 0);
-    CPageListWidgetHeader(const QString& title, const QString& text, QWidget* parent = 0);
+    explicit CPageListWidgetHeader(QWidget* parent = nullptr);
+    CPageListWidgetHeader(const QString& title, const QString& text, QWidget* parent = nullptr);
     ~CPageListWidgetHeader() override;
 
     bool initialize() override;

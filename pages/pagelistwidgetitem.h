@@ -1,7 +1,7 @@
 #ifndef CWIDGET_PAGES_PAGELISTWIDGETITEM_H
 #define CWIDGET_PAGES_PAGELISTWIDGETITEM_H
 
-#include "widgets/widget.h"
+#include "../widgets/widget.h"
 
 #include <QIcon>
 
@@ -24,8 +24,8 @@ class CWIDGET_EXPORT CPageListWidgetItem : public CWidget
 
 public:
     explicit CPageListWidgetItem(QWidget* parent);
-    explicit CPageListWidgetItem(const QString& text, QWidget* parent = 0);
-    CPageListWidgetItem(const QIcon& icon, const QString& text, QWidget* parent = 0);
+    explicit CPageListWidgetItem(const QString& text, QWidget* parent = nullptr);
+    CPageListWidgetItem(const QIcon& icon, const QString& text, QWidget* parent = nullptr);
     ~CPageListWidgetItem() override;
 
     bool initialize() override;

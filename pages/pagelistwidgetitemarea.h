@@ -1,7 +1,7 @@
 #ifndef CWIDGET_PAGES_PAGELISTWIDGETITEMAREA_H
 #define CWIDGET_PAGES_PAGELISTWIDGETITEMAREA_H
 
-#include "widgets/widget.h"
+#include "../widgets/widget.h"
 
 #include <QList>
 #include <QStringList>
@@ -24,7 +24,7 @@ class CWIDGET_EXPORT CPageListWidgetItemArea : public CWidget
     Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
-    explicit CPageListWidgetItemArea(QWidget* parent = 0);
+    explicit CPageListWidgetItemArea(QWidget* parent = nullptr);
     ~CPageListWidgetItemArea() override;
 
     void addItems(const QStringList& texts);

@@ -1,7 +1,7 @@
 #ifndef CWIDGET_PAGES_PAGEWIDGET_H
 #define CWIDGET_PAGES_PAGEWIDGET_H
 
-#include "widgets/widget.h"
+#include "../widgets/widget.h"
 
 #include <QList>
 #include <QPointer>
@@ -25,7 +25,7 @@ class CWIDGET_EXPORT CPageWidget : public CWidget
     Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
-    explicit CPageWidget(QWidget* parent = 0);
+    explicit CPageWidget(QWidget* parent = nullptr);
     ~CPageWidget() override;
 
     Q_INVOKABLE void addPage(QWidget* page);

@@ -1,8 +1,8 @@
 #ifndef CWIDGET_PARM_PARMCHECKBOX_H
 #define CWIDGET_PARM_PARMCHECKBOX_H
 
-#include "parm/parmfield.h"
-#include "widgets/widget.h"
+#include "../widgets/widget.h"
+#include "parmfield.h"
 
 class CCheckBox;
 class CLabel;
@@ -24,8 +24,8 @@ class CWIDGET_EXPORT CParmCheckBox : public CWidget
     Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
-    explicit CParmCheckBox(QWidget* parent = 0);
-    CParmCheckBox(const QString& name, const QString& text, QWidget* parent = 0);
+    explicit CParmCheckBox(QWidget* parent = nullptr);
+    CParmCheckBox(const QString& name, const QString& text, QWidget* parent = nullptr);
     ~CParmCheckBox() override;
 
     QString name() const;

@@ -1,8 +1,8 @@
 #ifndef CWIDGET_PARM_PARMCOMBOBOX_H
 #define CWIDGET_PARM_PARMCOMBOBOX_H
 
-#include "parm/parmfield.h"
-#include "widgets/widget.h"
+#include "../widgets/widget.h"
+#include "parmfield.h"
 
 #include <QList>
 #include <QStringList>
@@ -29,9 +29,9 @@ class CWIDGET_EXPORT CParmComboBox : public CWidget
     Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
-    explicit CParmComboBox(QWidget* parent = 0);
+    explicit CParmComboBox(QWidget* parent = nullptr);
     CParmComboBox(const QString& name, const QStringList& items, const QString& current,
-                  QWidget* parent = 0);
+                  QWidget* parent = nullptr);
     ~CParmComboBox() override;
 
     QString name() const;

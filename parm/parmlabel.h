@@ -1,8 +1,8 @@
 #ifndef CWIDGET_PARM_PARMLABEL_H
 #define CWIDGET_PARM_PARMLABEL_H
 
-#include "parm/parmfield.h"
-#include "widgets/label.h"
+#include "../widgets/label.h"
+#include "parmfield.h"
 
 /// A row of a settings screen that only tells: the name of a parameter and its value.
 class CWIDGET_EXPORT CParmLabel : public CWidget
@@ -30,8 +30,8 @@ class CWIDGET_EXPORT CParmLabel : public CWidget
     Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
-    explicit CParmLabel(QWidget* parent = 0);
-    CParmLabel(const QString& name, const QString& value, QWidget* parent = 0);
+    explicit CParmLabel(QWidget* parent = nullptr);
+    CParmLabel(const QString& name, const QString& value, QWidget* parent = nullptr);
     ~CParmLabel() override;
 
     QString name() const;

@@ -1,9 +1,9 @@
 #ifndef CWIDGET_PARM_PARMLINEEDIT_H
 #define CWIDGET_PARM_PARMLINEEDIT_H
 
-#include "keypad/keypadfactory.h"
-#include "parm/parmfield.h"
-#include "widgets/widget.h"
+#include "../keypad/keypadfactory.h"
+#include "../widgets/widget.h"
+#include "parmfield.h"
 
 class CLabel;
 class CLineEdit;
@@ -33,8 +33,8 @@ class CWIDGET_EXPORT CParmLineEdit : public CWidget
     Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
-    explicit CParmLineEdit(QWidget* parent = 0);
-    CParmLineEdit(const QString& name, const QString& value, QWidget* parent = 0);
+    explicit CParmLineEdit(QWidget* parent = nullptr);
+    CParmLineEdit(const QString& name, const QString& value, QWidget* parent = nullptr);
     ~CParmLineEdit() override;
 
     QString name() const;

@@ -1,8 +1,8 @@
 #ifndef CWIDGET_STYLE_WIDGETSTYLE_H
 #define CWIDGET_STYLE_WIDGETSTYLE_H
 
-#include "style/global.h"
-#include "style/style.h"
+#include "global.h"
+#include "style.h"
 
 #include <QObject>
 #include <QPixmap>
@@ -144,8 +144,8 @@ public:
     // clang-format on
 
     static bool initialize(const QString& path);
-    static WidgetStyle getWidgetStyle(const QString& name, bool* ok = 0);
-    static WidgetStyle getWidgetStyle(unsigned int& type, bool* ok = 0);
+    static WidgetStyle getWidgetStyle(const QString& name, bool* ok = nullptr);
+    static WidgetStyle getWidgetStyle(unsigned int& type, bool* ok = nullptr);
     static bool setWidgetStyle(const QString& path, const QFont& font);
     static bool setStyle(const QDomElement& element, const QFont& font);
 

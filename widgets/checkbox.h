@@ -1,8 +1,8 @@
 #ifndef CWIDGET_WIDGETS_CHECKBOX_H
 #define CWIDGET_WIDGETS_CHECKBOX_H
 
-#include "style/global.h"
-#include "style/style.h"
+#include "../style/global.h"
+#include "../style/style.h"
 
 #include <QCheckBox>
 #include <QColor>
@@ -24,8 +24,8 @@ class CWIDGET_EXPORT CCheckBox : public QCheckBox
     Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
-    explicit CCheckBox(QWidget* parent = 0);
-    explicit CCheckBox(const QString& text, QWidget* parent = 0);
+    explicit CCheckBox(QWidget* parent = nullptr);
+    explicit CCheckBox(const QString& text, QWidget* parent = nullptr);
     ~CCheckBox() override;
 
     bool isChecked() const;

@@ -1,7 +1,7 @@
 #ifndef CWIDGET_WIDGETS_CLOCKPROGRESS_H
 #define CWIDGET_WIDGETS_CLOCKPROGRESS_H
 
-#include "widgets/widget.h"
+#include "widget.h"
 
 class QTimer;
 
@@ -23,7 +23,7 @@ class CWIDGET_EXPORT CClockProgress : public CWidget
     Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
-    explicit CClockProgress(QWidget* parent = 0);
+    explicit CClockProgress(QWidget* parent = nullptr);
     ~CClockProgress() override;
 
     void start();

@@ -1,7 +1,7 @@
 #ifndef CWIDGET_WIDGETS_DIALOG_H
 #define CWIDGET_WIDGETS_DIALOG_H
 
-#include "style/global.h"
+#include "../style/global.h"
 
 #include <QColor>
 #include <QDialog>
@@ -12,7 +12,7 @@ class CWIDGET_EXPORT CDialog : public QDialog
     Q_OBJECT
 
 public:
-    explicit CDialog(QWidget* parent = 0);
+    explicit CDialog(QWidget* parent = nullptr);
     ~CDialog() override;
 
     virtual bool initialize();

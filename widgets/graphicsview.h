@@ -1,7 +1,7 @@
 #ifndef CWIDGET_WIDGETS_GRAPHICSVIEW_H
 #define CWIDGET_WIDGETS_GRAPHICSVIEW_H
 
-#include "style/global.h"
+#include "../style/global.h"
 
 #include <QColor>
 #include <QGraphicsView>
@@ -15,7 +15,7 @@ class CWIDGET_EXPORT CGraphicsView : public QGraphicsView
     Q_PROPERTY(int borderWidth READ getBorderWidth WRITE setBorderWidth)
 
 public:
-    explicit CGraphicsView(QWidget* parent = 0);
+    explicit CGraphicsView(QWidget* parent = nullptr);
     ~CGraphicsView() override;
 
     virtual void updateParm(void* data, unsigned int size);

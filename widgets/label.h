@@ -1,7 +1,7 @@
 #ifndef CWIDGET_WIDGETS_LABEL_H
 #define CWIDGET_WIDGETS_LABEL_H
 
-#include "widgets/widget.h"
+#include "widget.h"
 
 class QPainter;
 
@@ -35,7 +35,7 @@ public:
         CharWrap = 2  ///< breaks before a character that does not fit
     };
 
-    explicit CLabel(QWidget* parent = 0);
+    explicit CLabel(QWidget* parent = nullptr);
     ~CLabel() override;
 
     bool initialize() override;

@@ -1,9 +1,9 @@
 #ifndef CWIDGET_WIDGETS_LINEEDIT_H
 #define CWIDGET_WIDGETS_LINEEDIT_H
 
-#include "keypad/keypadfactory.h"
-#include "style/global.h"
-#include "style/style.h"
+#include "../keypad/keypadfactory.h"
+#include "../style/global.h"
+#include "../style/style.h"
 
 #include <QLineEdit>
 
@@ -24,7 +24,7 @@ class CWIDGET_EXPORT CLineEdit : public QLineEdit
     Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
-    explicit CLineEdit(QWidget* parent = 0);
+    explicit CLineEdit(QWidget* parent = nullptr);
     ~CLineEdit() override;
 
     QString title() const;

@@ -1,7 +1,7 @@
 #ifndef CWIDGET_WIDGETS_PROGRESSBAR_H
 #define CWIDGET_WIDGETS_PROGRESSBAR_H
 
-#include "style/global.h"
+#include "../style/global.h"
 
 #include <QColor>
 #include <QRect>
@@ -20,7 +20,7 @@ class CWIDGET_EXPORT CProgressBar : public QWidget
     Q_PROPERTY(bool gradientEnabled READ isGradientEnabled WRITE setGradientEabled)
 
 public:
-    explicit CProgressBar(QWidget* parent = 0);
+    explicit CProgressBar(QWidget* parent = nullptr);
     ~CProgressBar() override;
 
     void setRange(int minimum, int maximum);

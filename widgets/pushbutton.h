@@ -1,8 +1,8 @@
 #ifndef CWIDGET_WIDGETS_PUSHBUTTON_H
 #define CWIDGET_WIDGETS_PUSHBUTTON_H
 
-#include "style/global.h"
-#include "style/style.h"
+#include "../style/global.h"
+#include "../style/style.h"
 
 #include <QColor>
 #include <QMap>
@@ -66,7 +66,7 @@ public:
         FixedStyle = 4 ///< grey, and pressing does not change it
     };
 
-    explicit CPushButton(QWidget* parent = 0);
+    explicit CPushButton(QWidget* parent = nullptr);
     ~CPushButton() override;
 
     bool initialize();

@@ -1,7 +1,7 @@
 #ifndef CWIDGET_WIDGETS_TOPTITLEAREA_H
 #define CWIDGET_WIDGETS_TOPTITLEAREA_H
 
-#include "widgets/widget.h"
+#include "widget.h"
 
 /// A strip with a title, as it stands over a screen or an entry field.
 class CWIDGET_EXPORT CTopTitleArea : public CWidget
@@ -15,7 +15,7 @@ class CWIDGET_EXPORT CTopTitleArea : public CWidget
     Q_PROPERTY(bool autoStyleEnabled READ isAutoStyleEnabled WRITE setAutoStyleEnabled)
 
 public:
-    explicit CTopTitleArea(QWidget* parent = 0);
+    explicit CTopTitleArea(QWidget* parent = nullptr);
     ~CTopTitleArea() override;
 
     QString title() const;

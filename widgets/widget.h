@@ -1,8 +1,8 @@
 #ifndef CWIDGET_WIDGETS_WIDGET_H
 #define CWIDGET_WIDGETS_WIDGET_H
 
-#include "style/global.h"
-#include "style/style.h"
+#include "../style/global.h"
+#include "../style/style.h"
 
 #include <QColor>
 #include <QPixmap>
@@ -18,7 +18,7 @@ class CWIDGET_EXPORT CWidget : public QWidget
     Q_OBJECT
 
 public:
-    explicit CWidget(QWidget* parent = 0);
+    explicit CWidget(QWidget* parent = nullptr);
     ~CWidget() override;
 
     // Containers reach these through CWidget pointers; their order is part of the interface.

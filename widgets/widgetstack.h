@@ -1,7 +1,7 @@
 #ifndef CWIDGET_WIDGETS_WIDGETSTACK_H
 #define CWIDGET_WIDGETS_WIDGETSTACK_H
 
-#include "style/global.h"
+#include "../style/global.h"
 
 #include <QVector>
 

@@ -47,8 +47,8 @@ QStringList linesOf(const QString& path)
     return QString::fromUtf8(testing::contentOf(root() + path)).split(QLatin1Char('\n'));
 }
 
-/// What a file includes in quotes.
-QStringList includesOf(const QString& path)
+/// What a file includes in quotes, as it is written there.
+QStringList quotedIncludesOf(const QString& path)
 {
     QStringList includes;
     const QStringList lines = linesOf(path);
@@ -57,6 +57,31 @@ QStringList includesOf(const QString& path)
             includes.append(lines.at(i).section(QLatin1Char('"'), 1, 1));
     }
     return includes;
+}
+
+/// The path below the root of what the file \a path includes: found from its own folder, as the
+/// compiler does, or else from the root.
+QString resolved(const QString& path, const QString& include)
+{
+    const QString folder = path.section(QLatin1Char('/'), 0, -2);
+    const QString sibling = QDir::cleanPath(folder + QLatin1Char('/') + include);
+    return QFile::exists(root() + sibling) ? sibling : include;
+}
+
+/// The paths below the root of all files that a file includes in quotes.
+QStringList includesOf(const QString& path)
+{
+    QStringList includes = quotedIncludesOf(path);
+    for (int i = 0; i < includes.size(); ++i)
+        includes[i] = resolved(path, includes.at(i));
+    return includes;
+}
+
+/// Whether applications see the header \a path.
+bool isPublicHeader(const QString& path)
+{
+    return path.endsWith(QLatin1String(".h")) && !path.endsWith(QLatin1String("_p.h")) &&
+           path != QLatin1String("style/qtcompat.h");
 }
 
 bool allowed(const QString& path, const QString& include)
@@ -100,6 +125,7 @@ class tst_layers : public QObject
 
 private Q_SLOTS:
     void includesPointDownwards();
+    void publicHeadersFindTheirSiblingsThemselves();
     void keypadFactoryHeaderIncludesNoWidget();
     void versionOfQtIsAskedInTheCompatibilityHeadersOnly();
     void sizesOfSources();
@@ -125,6 +151,26 @@ void tst_layers::includesPointDownwards()
     QVERIFY(!allowed(QLatin1String("style/theme.cpp"), QLatin1String("widgets/widget.h")));
     QVERIFY(!allowed(QLatin1String("widgets/label.cpp"), QLatin1String("keypad/keypadfactory.h")));
     QVERIFY(!allowed(QLatin1String("hotplug/devicewatcher.h"), QLatin1String("widgets/widget.h")));
+}
+
+// An application may have a "widgets/widget.h" of its own, earlier on its include path than ours.
+void tst_layers::publicHeadersFindTheirSiblingsThemselves()
+{
+    const QStringList sources = librarySources();
+    int seen = 0;
+    for (int i = 0; i < sources.size(); ++i) {
+        if (!isPublicHeader(sources.at(i)))
+            continue;
+        const QString folder = root() + sources.at(i).section(QLatin1Char('/'), 0, -2);
+        const QStringList includes = quotedIncludesOf(sources.at(i));
+        for (int j = 0; j < includes.size(); ++j, ++seen) {
+            const QString text = sources.at(i) + QLatin1String(" includes ") + includes.at(j) +
+                                 QLatin1String(", which is not the path from its folder");
+            QVERIFY2(QFile::exists(folder + QLatin1Char('/') + includes.at(j)), qPrintable(text));
+            QVERIFY2(isPublicHeader(resolved(sources.at(i), includes.at(j))), qPrintable(text));
+        }
+    }
+    QVERIFY(seen > 30);
 }
 
 void tst_layers::keypadFactoryHeaderIncludesNoWidget()
