@@ -25,7 +25,7 @@ foreach(file IN LISTS files)
 endforeach()
 list(JOIN inputs " \\\n                         " CWIDGET_DOCS_INPUT)
 
-set(CWIDGET_DOCS_DIR "${CMAKE_BINARY_DIR}/docs")
+set(CWIDGET_DOCS_DIR "${PROJECT_BINARY_DIR}/docs")
 set(CWIDGET_DOCS_PREVIEWS "${CWIDGET_DOCS_DIR}/previews")
 string(REPLACE "." "" CWIDGET_DOCS_QHP_VERSION "${PROJECT_VERSION}")
 configure_file("${PROJECT_SOURCE_DIR}/docs/Doxyfile.in" "${CWIDGET_DOCS_DIR}/Doxyfile" @ONLY)
@@ -40,7 +40,10 @@ add_custom_target(docs
   COMMENT "Building the reference"
   VERBATIM)
 
-install(DIRECTORY "${CWIDGET_DOCS_DIR}/html" DESTINATION "${CMAKE_INSTALL_DOCDIR}"
-  COMPONENT documentation OPTIONAL)
-install(FILES "${CWIDGET_DOCS_DIR}/quorlin-cwidget.qch" DESTINATION "${CMAKE_INSTALL_DOCDIR}"
-  COMPONENT documentation OPTIONAL)
+# One reference is for all generations of Qt.
+if(CWIDGET_INSTALL AND NOT CWIDGET_SUFFIX)
+  install(DIRECTORY "${CWIDGET_DOCS_DIR}/html" DESTINATION "${CMAKE_INSTALL_DOCDIR}"
+    COMPONENT documentation OPTIONAL)
+  install(FILES "${CWIDGET_DOCS_DIR}/quorlin-cwidget.qch" DESTINATION "${CMAKE_INSTALL_DOCDIR}"
+    COMPONENT documentation OPTIONAL)
+endif()

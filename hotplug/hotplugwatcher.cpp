@@ -34,12 +34,6 @@ bool contains(const QString& text, const char* word)
     return text.indexOf(QLatin1String(word), 0, Qt::CaseInsensitive) >= 0;
 }
 
-bool matches(const QString& text, const char* pattern, Qt::CaseSensitivity sensitivity)
-{
-    const QRegExp expression(QLatin1String(pattern), sensitivity, QRegExp::RegExp);
-    return expression.indexIn(text) >= 0;
-}
-
 /// Whether the listing tool is there. Some versions of Qt lose a descriptor with every program that
 /// they cannot start, so that what is missing is better not started at all.
 bool hasLister()
@@ -73,9 +67,9 @@ void noteInputDevice(const QString& dev, Qt::CaseSensitivity mouseCase, bool ava
         return;
     if (contains(dev, "Keyboard"))
         CWidgetStyle::setDeviceAvailable(CWidgetStyle::DeviceKeyboard, available);
-    else if (matches(dev, "*NAME=*Mouse", mouseCase))
+    else if (qtcompat::matches(dev, "*NAME=*Mouse", mouseCase))
         CWidgetStyle::setDeviceAvailable(CWidgetStyle::DeviceMouse, available);
-    else if (matches(dev, "*NAME=*Storage", Qt::CaseSensitive))
+    else if (qtcompat::matches(dev, "*NAME=*Storage", Qt::CaseSensitive))
         CWidgetStyle::setDeviceAvailable(CWidgetStyle::DeviceStorage, available);
 }
 

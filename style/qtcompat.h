@@ -12,9 +12,14 @@
 #include <QPoint>
 #include <QProcess>
 #include <QRect>
-#include <QRegExp> // Qt 6 has it in its Core5Compat module
 #include <QString>
 #include <QStringList>
+
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+#include <QRegularExpression>
+#else
+#include <QRegExp>
+#endif
 
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
 #include <QGuiApplication>
@@ -82,6 +87,22 @@ inline QPoint eventPos(const QMouseEvent* event)
     return event->position().toPoint();
 #else
     return event->pos();
+#endif
+}
+
+/// Whether the regular expression \a pattern is found in \a text; an invalid one never is, and
+/// gives no warning. Qt 6 has QRegExp in a module of its own only, which is not worth having for
+/// this.
+inline bool matches(const QString& text, const char* pattern, Qt::CaseSensitivity sensitivity)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    const QRegularExpression expression(QLatin1String(pattern),
+                                        sensitivity == Qt::CaseSensitive
+                                            ? QRegularExpression::NoPatternOption
+                                            : QRegularExpression::CaseInsensitiveOption);
+    return expression.isValid() && expression.match(text).hasMatch();
+#else
+    return QRegExp(QLatin1String(pattern), sensitivity, QRegExp::RegExp).indexIn(text) >= 0;
 #endif
 }
 

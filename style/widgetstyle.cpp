@@ -10,6 +10,15 @@
 #include <QMap>
 #include <QTextStream>
 
+// Every application names its style file, so that this is in every program: what is static brings
+// the pictures along only when somebody asks for them.
+static int initPictures()
+{
+    Q_INIT_RESOURCE(cwidget);
+    return 0;
+}
+static const int picturesAreThere = initPictures();
+
 namespace
 {
 

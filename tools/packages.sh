@@ -30,7 +30,7 @@ cwidget_build_packages() {
     echo cmake ninja-build g++ pkg-config
     case $1 in
         5) echo qtbase5-dev ;;
-        6) echo qt6-base-dev libqt6core5compat6-dev libgl-dev ;;
+        6) echo qt6-base-dev libgl-dev ;;
     esac
 }
 

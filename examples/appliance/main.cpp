@@ -5,6 +5,7 @@
 // usage: appliance [SETTINGS-FILE [STYLE-FILE]]
 
 #include "common/netlinkaddress.h"
+#include "stylefile.h"
 
 #include <CHotplugWatcher>
 #include <CLabel>
@@ -383,7 +384,7 @@ int main(int argc, char** argv)
     NetlinkAddress address; // before Qt listens for input devices
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    const QString style = arguments.value(2, latin(EXAMPLE_STYLE_FILE));
+    const QString style = arguments.value(2, shippedStyleFile());
     if (!CWidgetStyle::initialize(style)) // before any widget is made
         fprintf(stderr, "The style file %s cannot be read.\n", qPrintable(style));
     address.release();

@@ -3,6 +3,7 @@
 //
 // usage: designed-panel [STYLE-FILE]
 
+#include "stylefile.h"
 #include "ui_designedpanel.h"
 
 #include <CWidgetStyle>
@@ -70,7 +71,7 @@ void DesignedPanel::showPressure(int bar)
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    const QString style = QApplication::arguments().value(1, QLatin1String(EXAMPLE_STYLE_FILE));
+    const QString style = QApplication::arguments().value(1, shippedStyleFile());
     if (!CWidgetStyle::initialize(style)) // before any widget is made
         fprintf(stderr, "The style file %s cannot be read.\n", qPrintable(style));
     DesignedPanel panel;

@@ -5,6 +5,7 @@
 #include "gallerywidgets.h"
 #include "panel.h"
 #include "shots.h"
+#include "stylefile.h"
 
 #include <CWidgetStyle>
 #include <QApplication>
@@ -161,7 +162,7 @@ QString copyOfDefaultStyle()
     const QString copy = QDir::temp().filePath(
         QString::fromLatin1("quorlin-gallery-%1.xml").arg(QApplication::applicationPid()));
     QFile::remove(copy);
-    return QFile::copy(QLatin1String(GALLERY_STYLE_FILE), copy) ? copy : QString();
+    return QFile::copy(shippedStyleFile(), copy) ? copy : QString();
 }
 
 int run(const Options& options, NetlinkAddress* address)

@@ -3,6 +3,8 @@
 //
 // usage: paged-chooser [STYLE-FILE]
 
+#include "stylefile.h"
+
 #include <CLabel>
 #include <CPageWidget>
 #include <CPushButton>
@@ -110,7 +112,7 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
-    const QString style = arguments.value(1, QLatin1String(EXAMPLE_STYLE_FILE));
+    const QString style = arguments.value(1, shippedStyleFile());
     if (!CWidgetStyle::initialize(style)) // before any widget is made
         fprintf(stderr, "The style file %s cannot be read.\n", qPrintable(style));
     Chooser chooser;

@@ -131,8 +131,9 @@ private Q_SLOTS:
     void arrivalAndRemoval_data();
     void arrivalAndRemoval();
     void changeIsNothing();
-    void expressionsForMouseAndStorageAreInvalid_data();
-    void expressionsForMouseAndStorageAreInvalid();
+    void expressionsForMouseAndStorageMatchNothing_data();
+    void expressionsForMouseAndStorageMatchNothing();
+    void validExpressionsMatch();
     void threadIdlesFromConstructionOn();
     void threadRunsWhatIsMovedIntoIt();
     void watcherIsAChildAndRuns();
@@ -211,27 +212,34 @@ void tst_hotplugwatcher::changeIsNothing()
     QCOMPARE(registry(), QString::fromLatin1("kms"));
 }
 
-void tst_hotplugwatcher::expressionsForMouseAndStorageAreInvalid_data()
+void tst_hotplugwatcher::expressionsForMouseAndStorageMatchNothing_data()
 {
-    QTest::addColumn<QString>("pattern");
-    QTest::newRow("mouse") << "*NAME=*Mouse";
-    QTest::newRow("storage") << "*NAME=*Storage";
+    QTest::addColumn<QByteArray>("pattern");
+    QTest::newRow("mouse") << QByteArray("*NAME=*Mouse");
+    QTest::newRow("storage") << QByteArray("*NAME=*Storage");
 }
 
-void tst_hotplugwatcher::expressionsForMouseAndStorageAreInvalid()
+void tst_hotplugwatcher::expressionsForMouseAndStorageMatchNothing()
 {
-    QFETCH(QString, pattern);
+    QFETCH(QByteArray, pattern);
     testing::Messages messages;
-    const Qt::CaseSensitivity cases[] = {Qt::CaseSensitive, Qt::CaseInsensitive};
-    for (int i = 0; i < 2; ++i) {
-        const QRegExp expression(pattern, cases[i], QRegExp::RegExp);
-        QVERIFY(!expression.isValid());
-        QCOMPARE(expression.indexIn(QLatin1String("NAME=\"USB Mouse Storage\"")), -1);
-        QCOMPARE(expression.indexIn(QLatin1String("NAME=Mouse NAME=Storage")), -1);
-        QCOMPARE(expression.indexIn(pattern), -1);
-        QCOMPARE(expression.indexIn(QString()), -1);
+    const QString texts[] = {QLatin1String("NAME=\"USB Mouse Storage\""),
+                             QLatin1String("NAME=Mouse NAME=Storage"),
+                             QLatin1String(pattern.constData()), QString()};
+    for (size_t i = 0; i < sizeof texts / sizeof texts[0]; ++i) {
+        QVERIFY(!qtcompat::matches(texts[i], pattern.constData(), Qt::CaseSensitive));
+        QVERIFY(!qtcompat::matches(texts[i], pattern.constData(), Qt::CaseInsensitive));
     }
     QCOMPARE(messages.warnings(), QStringList());
+}
+
+void tst_hotplugwatcher::validExpressionsMatch()
+{
+    const QString text = QLatin1String("NAME=\"USB Mouse\"");
+    QVERIFY(qtcompat::matches(text, "NAME=.*Mouse", Qt::CaseSensitive));
+    QVERIFY(!qtcompat::matches(text, "NAME=.*mouse", Qt::CaseSensitive));
+    QVERIFY(qtcompat::matches(text, "NAME=.*mouse", Qt::CaseInsensitive));
+    QVERIFY(!qtcompat::matches(text, "NAME=.*Storage", Qt::CaseInsensitive));
 }
 
 void tst_hotplugwatcher::threadIdlesFromConstructionOn()

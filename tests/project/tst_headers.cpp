@@ -1,5 +1,7 @@
 #include "support/testing.h"
 
+#include "style/version.h"
+
 #include <QDir>
 #include <QProcess>
 #include <QSet>
@@ -16,9 +18,9 @@ QString forwardingFolder()
 QStringList exportedSymbols()
 {
     QProcess nm;
-    nm.start(QLatin1String("nm"),
-             QStringList() << QLatin1String("-DC") << QLatin1String("--defined-only")
-                           << QLatin1String(CWIDGET_BINARY_DIR "/libquorlin-cwidget.so.1"));
+    nm.start(QLatin1String("nm"), QStringList()
+                                      << QLatin1String("-DC") << QLatin1String("--defined-only")
+                                      << QLatin1String(CWIDGET_LIBRARY));
     if (!nm.waitForFinished(60000) || nm.exitCode() != 0)
         qFatal("cannot list the symbols of the library");
     QStringList symbols;
@@ -54,6 +56,7 @@ private Q_SLOTS:
     void everyClassHasItsForwardingHeader();
     void onlyTheClassesAreExported();
     void libraryHasItsSoname();
+    void versionIsTheSameEverywhere();
 };
 
 void tst_headers::everyClassHasItsForwardingHeader()
@@ -68,7 +71,7 @@ void tst_headers::everyClassHasItsForwardingHeader()
         QVERIFY2(content.startsWith("#include \""), qPrintable(wanted.at(i)));
         const QString header = QString::fromLatin1(content).section(QLatin1Char('"'), 1, 1);
         const QByteArray declaration = "CWIDGET_EXPORT " + wanted.at(i).toLatin1();
-        const QByteArray text = testing::contentOf(QLatin1String(CWIDGET_SOURCE_DIR "/") + header);
+        const QByteArray text = testing::contentOf(header);
         QVERIFY2(text.contains("class " + declaration), qPrintable(wanted.at(i)));
     }
 }
@@ -103,10 +106,26 @@ void tst_headers::libraryHasItsSoname()
 {
     QProcess readelf;
     readelf.start(QLatin1String("readelf"),
-                  QStringList() << QLatin1String("-d")
-                                << QLatin1String(CWIDGET_BINARY_DIR "/libquorlin-cwidget.so"));
+                  QStringList() << QLatin1String("-d") << QLatin1String(CWIDGET_LIBRARY));
     QVERIFY(readelf.waitForFinished(60000));
-    QVERIFY(readelf.readAllStandardOutput().contains("soname: [libquorlin-cwidget.so.1]"));
+    QVERIFY(readelf.readAllStandardOutput().contains("soname: [lib" CWIDGET_NAME ".so.1]"));
+}
+
+void tst_headers::versionIsTheSameEverywhere()
+{
+    const QString version = QString::fromLatin1("%1.%2.%3")
+                                .arg(CWIDGET_VERSION_MAJOR)
+                                .arg(CWIDGET_VERSION_MINOR)
+                                .arg(CWIDGET_VERSION_PATCH);
+    QCOMPARE(QString::fromLatin1(CWIDGET_VERSION_STR), version);
+    QCOMPARE(QString::fromLatin1(CWIDGET_PROJECT_VERSION), version);
+    QVERIFY(QLatin1String(CWIDGET_LIBRARY) ==
+            QLatin1String(CWIDGET_BINARY_DIR "/lib" CWIDGET_NAME ".so.") + version);
+    QVERIFY(CWIDGET_VERSION == CWIDGET_VERSION_CHECK(CWIDGET_VERSION_MAJOR, CWIDGET_VERSION_MINOR,
+                                                     CWIDGET_VERSION_PATCH));
+    const QByteArray changes =
+        testing::contentOf(QLatin1String(CWIDGET_SOURCE_DIR "/CHANGELOG.md"));
+    QVERIFY(changes.contains("\n## " + version.toLatin1()));
 }
 
 QTEST_MAIN(tst_headers)

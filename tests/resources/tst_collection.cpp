@@ -139,8 +139,7 @@ void tst_collection::nothingElseIsInTheCollection()
 // What the collection holds is byte for byte the file, and stands so in the library.
 void tst_collection::collectionHoldsTheFilesUncompressed()
 {
-    const QByteArray library =
-        testing::contentOf(QLatin1String(CWIDGET_BINARY_DIR "/libquorlin-cwidget.so.1"));
+    const QByteArray library = testing::contentOf(QLatin1String(CWIDGET_LIBRARY));
     QVERIFY(!library.isEmpty());
     for (int i = 0; i < pictureCount; ++i) {
         const QByteArray file =

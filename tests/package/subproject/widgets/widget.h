@@ -1,0 +1,7 @@
+#ifndef CWIDGET_TESTS_PACKAGE_SUBPROJECT_WIDGETS_WIDGET_H
+#define CWIDGET_TESTS_PACKAGE_SUBPROJECT_WIDGETS_WIDGET_H
+
+// The application has its own header of this name.
+#define APPLICATION_WIDGET
+
+#endif
