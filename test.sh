@@ -14,6 +14,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 source tools/packages.sh
+source tools/build.sh
 
 qt=5
 sanitize=OFF
@@ -49,7 +50,7 @@ if [ "$qt" = 4 ]; then
     qt_options=(-DQT_QMAKE_EXECUTABLE="$QT4_DIR/bin/qmake")
 fi
 
-test_packages="clang-format-14 xvfb openbox xdotool x11-utils usbutils util-linux"
+test_packages="clang-format-14 clang-14 xvfb openbox xdotool x11-utils usbutils util-linux"
 device_packages="qemu-system-x86 busybox-static kmod udev usbutils util-linux e2fsprogs python3"
 test_packages+=" doxygen qttools5-dev-tools"
 # shellcheck disable=SC2046,SC2086
@@ -71,14 +72,14 @@ fi
 build=build/test-qt$qt
 options=(-DCWIDGET_QT_MAJOR="$qt" -DCWIDGET_WERROR=ON -DCWIDGET_SANITIZE="$sanitize"
          -DCWIDGET_SANITIZE_THREADS="$threads" "${qt_options[@]}")
-targets=()
+target=
 if [ "$sanitize" = ON ]; then
     build+=-sanitize
     options+=(-DCMAKE_BUILD_TYPE=RelWithDebInfo)
 elif [ "$threads" = ON ]; then
     build+=-threads
     options+=(-DCMAKE_BUILD_TYPE=RelWithDebInfo)
-    targets=(--target threads)
+    target=threads
     set -- -L threads "$@"
 elif [ -n "$clang" ]; then
     build=build/clang-qt$qt
@@ -88,23 +89,28 @@ elif [ -n "$fuzz" ]; then
     options+=(-DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++-14
               -DCWIDGET_BUILD_FUZZERS=ON -DCWIDGET_FUZZ_SECONDS="$fuzz"
               -DBUILD_TESTING=OFF -DCWIDGET_BUILD_EXAMPLES=OFF)
-    targets=(--target fuzz)
+    target=fuzz
 else
     options+=(-DCMAKE_BUILD_TYPE=Release)
 fi
-if [ -n "$device" ]; then targets=(--target device); fi
-if [ -n "$bench" ]; then options+=(-DCWIDGET_BUILD_BENCHMARKS=ON); fi
+if [ -n "$device" ]; then target=device; fi
+options+=(-DCWIDGET_BUILD_BENCHMARKS="$([ -n "$bench" ] && echo ON || echo OFF)")
 
-cmake -S . -B "$build" -G Ninja "${options[@]}"
-cmake --build "$build" "${targets[@]}"
+# The fuzzers run as a part of their build, so that is seen.
+if [ -n "$fuzz" ]; then
+    cmake -S . -B "$build" -G Ninja "${options[@]}"
+    exec cmake --build "$build" --target "$target"
+fi
+cwidget_build "$build" "$target" "${options[@]}"
 
-if [ -n "$clang$fuzz" ]; then exit; fi
+if [ -n "$clang" ]; then exit; fi
 if [ -n "$device" ]; then
     exec /usr/bin/python3 tests/device/run.py --build "$build" --kernel build/device/kernel \
         --output "build/device/qt$qt" "$@"
 fi
 if [ -n "$bench" ]; then exec cmake --build "$build" --target bench; fi
 
-cd "$build"
-# shellcheck disable=SC2046
-exec ctest --output-on-failure -j "$(nproc)" "$@"
+status=0
+(cd "$build" && ctest --output-on-failure -j "$(nproc)" "$@") || status=$?
+tools/skipped.sh "$build/Testing/Temporary/LastTest.log"
+exit $status

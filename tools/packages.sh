@@ -13,8 +13,8 @@ cwidget_install() {
     local root=()
     if [ "$(id -u)" -ne 0 ]; then
         if ! command -v sudo >/dev/null; then
-            echo "These packages are missing, and neither root nor sudo is there to install them:" >&2
-            echo "  ${missing[*]}" >&2
+            echo "Packages are missing, and neither root nor sudo is there to install them. As root:" >&2
+            echo "  apt-get install ${missing[*]}" >&2
             return 1
         fi
         root=(sudo)

@@ -49,9 +49,9 @@ if "$cmake" --install "$build" --prefix "$stage/nothing" | grep -F Installing; t
     exit 1
 fi
 
-# check_static PREFIX LIBDIR: consumers of the installed static library.
+# check_static LIBDIR: consumers of the installed static library.
 check_static() {
-    local prefix=$1 libdir=$2
+    local libdir=$1
     test -f "$libdir/lib$name.a"
     quietly "$cmake" -S "$consumer" -B "$stage/consumer" -G "$generator" --fresh \
         -DCMAKE_CXX_COMPILER="$cxx" -DPACKAGE="$package" \
@@ -73,13 +73,13 @@ echo "== installed when asked for"
 configure -DBUILD_SHARED_LIBS=OFF -DCWIDGET_INSTALL=ON -DCMAKE_INSTALL_LIBDIR=lib/device
 quietly "$cmake" --build "$build"
 quietly "$cmake" --install "$build" --prefix "$stage/usr"
-check_static "$stage/usr" "$stage/usr/lib/device"
+check_static "$stage/usr/lib/device"
 
 echo "== with an absolute folder for libraries"
 configure -DCMAKE_INSTALL_PREFIX="$stage/absolute" -DCMAKE_INSTALL_LIBDIR="$stage/elsewhere/lib"
 quietly "$cmake" --build "$build"
 quietly "$cmake" --install "$build"
-check_static "$stage/absolute" "$stage/elsewhere/lib"
+check_static "$stage/elsewhere/lib"
 export PKG_CONFIG_PATH=$stage/elsewhere/lib/pkgconfig
 test "$(pkg-config --variable=libdir "$name")" = "$stage/elsewhere/lib"
 test "$(pkg-config --variable=prefix "$name")" = "$stage/absolute"

@@ -1,0 +1,91 @@
+#!/usr/bin/env bash
+# checkscripts.sh SOURCE
+#
+# Runs the scripts of the project's root with stubs of cmake and ctest, and sees that what fails
+# gives a failing exit code, and what they say.
+set -euo pipefail
+source=$1
+
+stage=$(mktemp -d)
+trap 'rm -rf "$stage"' EXIT
+mkdir -p "$stage/tests/device" "$stage/resources"
+cp -r "$source/test.sh" "$source/gallery.sh" "$source/.ci" "$source/tools" "$stage"
+cd "$stage"
+export STUB_LOG=$stage/stub.log
+export PATH=$source/tests/scripts/stubs:$PATH
+unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
+
+failures=0
+complain() {
+    echo "$*" >&2
+    sed 's/^/    /' "$stage/output" >&2
+    failures=$((failures + 1))
+}
+
+# check STATUS TEXT [NAME=VALUE...] COMMAND...: the command ends with the status, which "fails" is
+# any but 0, and prints a line with the text.
+check() {
+    local wanted=$1 text=$2 status=0
+    shift 2
+    : >"$STUB_LOG"
+    env "$@" >"$stage/output" 2>&1 || status=$?
+    if [ "$wanted" = fails ]; then
+        [ $status -ne 0 ] || complain "$*: does not fail"
+    else
+        [ $status -eq "$wanted" ] || complain "$*: ends with $status instead of $wanted"
+    fi
+    grep -qF -- "$text" "$stage/output" || complain "$*: does not say '$text'"
+}
+
+# check_calls TEXT: one of the stubs was called so.
+check_calls() {
+    grep -qF -- "$1" "$STUB_LOG" || complain "nothing was called as '$1'"
+}
+
+skipped="skipped: tst_stub: tst_stub::initTestCase() there is no such device"
+check 0 "$skipped" ./test.sh
+check_calls "-DCWIDGET_BUILD_BENCHMARKS=OFF"
+if grep -q "the output of the" "$stage/output"; then complain "test.sh prints what the build says"; fi
+check 8 "$skipped" STUB_FAILS=ctest ./test.sh
+check fails "the output of the configure" STUB_FAILS=configure ./test.sh
+check fails "The build failed; all of its output is in build/test-qt5/build.log" STUB_FAILS=build ./test.sh
+if grep -q ctest "$STUB_LOG"; then complain "the tests run after a failed build"; fi
+check fails "" STUB_FAILS=build ./test.sh --sanitize
+check fails "" STUB_FAILS=build ./test.sh --threads
+check fails "" STUB_FAILS=build ./test.sh --fuzz 0
+check fails "" STUB_FAILS=build ./test.sh --bench
+check_calls "-DCWIDGET_BUILD_BENCHMARKS=ON"
+check 2 "--sanitize" ./test.sh --no-such-option
+check 0 "$skipped" ./test.sh -- -R label
+check_calls "-R label"
+
+check 0 "The pictures are in build/shots." ./gallery.sh
+check 0 "the gallery runs: --log" ./gallery.sh --log
+check fails "The build failed" STUB_FAILS=build ./gallery.sh
+if grep -q "the gallery runs" "$stage/output"; then complain "the gallery runs after a failed build"; fi
+check 3 "the gallery runs" STUB_GALLERY=3 ./gallery.sh
+
+check 0 "==== ./test.sh --qt 6" .ci/run
+for folder in test-qt5 test-qt5-sanitize test-qt5-threads test-qt6; do
+    check 1 "==== failed:" STUB_FAILS=ctest:$folder .ci/run
+    grep -q "==== ./test.sh --qt 6" "$stage/output" || complain ".ci/run stops at the first failure"
+done
+check 1 "==== failed:" STUB_FAILS=build .ci/run
+
+# Without any rights the command is named. As nobody, since root would install the package.
+if [ "$(id -u)" -eq 0 ]; then
+    chmod -R a+rX "$stage"
+    unprivileged=(setpriv --reuid 65534 --clear-groups)
+    if setpriv --reuid 65534 --clear-groups bash -c 'command -v sudo' >/dev/null; then unprivileged=(); fi
+else
+    unprivileged=(env)
+fi
+if [ ${#unprivileged[@]} -gt 0 ] && ! command -v sudo >/dev/null; then
+    check fails "apt-get install cmake" STUB_MISSING=cmake "${unprivileged[@]}" \
+        bash -c "cd '$stage' && source tools/packages.sh && cwidget_install bash cmake"
+else
+    echo "SKIP: sudo is there, so nothing is refused for want of rights"
+fi
+
+[ $failures -eq 0 ] || exit 1
+echo "ok"
