@@ -1,5 +1,6 @@
 #include "keypad/abstractkeypad.h"
 
+#include "keypad/keygrid_p.h"
 #include "style/widgetstyle.h"
 
 namespace
@@ -19,4 +20,12 @@ CAbstractKeyPad::CAbstractKeyPad(QWidget* parent) : CWidget(parent)
 
 CAbstractKeyPad::~CAbstractKeyPad()
 {
+}
+
+/// The captions follow the language of the application.
+void CAbstractKeyPad::changeEvent(QEvent* event)
+{
+    CWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        keygrid::translate(this);
 }

@@ -22,6 +22,9 @@ Q_SIGNALS:
     /// A key was pressed that showed \a text. \a keyCode is one of Qt::Key or of KeyPadKey.
     void currentKeyChanged(const QString& text, int keyCode);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     Q_DISABLE_COPY(CAbstractKeyPad)
 };

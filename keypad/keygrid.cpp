@@ -3,6 +3,7 @@
 #include "keypad/keybutton.h"
 #include "style/keptpictures_p.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -17,6 +18,49 @@ CWidgetStyle::KeyStatus following(CWidgetStyle::KeyStatus status, int count)
     return static_cast<CWidgetStyle::KeyStatus>(status + count);
 }
 
+// The texts that a language has of its own, by the codes of their keys.
+const struct Caption {
+    int code;
+    const char* text;
+} captions[] = {
+    // clang-format off
+    //: Key that deletes the character after the cursor. At most 4 letters: it is 40 pixels wide.
+    {Qt::Key_Delete,   QT_TRANSLATE_NOOP("CAbstractKeyPad", "Del")},
+    //: Key that empties the entry. 75 pixels wide.
+    {Key_DelAll,       QT_TRANSLATE_NOOP("CAbstractKeyPad", "Del All")},
+    //: Key that accepts the entry and closes the keypad. 90 pixels wide.
+    {Key_Apply,        QT_TRANSLATE_NOOP("CAbstractKeyPad", "Apply")},
+    //: Key that puts the next letter into the other case. 55 pixels wide.
+    {Qt::Key_Shift,    QT_TRANSLATE_NOOP("CAbstractKeyPad", "Shift")},
+    //: Key that switches to capital letters and back. 55 pixels wide.
+    {Qt::Key_CapsLock, QT_TRANSLATE_NOOP("CAbstractKeyPad", "Caps")},
+    //: Key that switches from letters to symbols and back. 66 pixels wide.
+    {Key_Symbol,       QT_TRANSLATE_NOOP("CAbstractKeyPad", "Symbol")},
+    //: The space bar.
+    {Qt::Key_Space,    QT_TRANSLATE_NOOP("CAbstractKeyPad", "SPACE")},
+    // clang-format on
+};
+
+// What a key was last captioned in the language of the time.
+const char captionProperty[] = "caption";
+
+/// The caption of the key with \a code in the language of the application; null for a key that has
+/// none of its own.
+QString captionOf(int code)
+{
+    for (size_t i = 0; i < sizeof captions / sizeof captions[0]; ++i) {
+        if (captions[i].code == code)
+            return QCoreApplication::translate("CAbstractKeyPad", captions[i].text);
+    }
+    return QString();
+}
+
+void setCaption(CKeyButton* key, const QString& caption)
+{
+    key->setKeyText(caption);
+    key->setProperty(captionProperty, caption);
+}
+
 void setUpBlankKey(CKeyButton* key)
 {
     key->setBackgroundColor(Qt::black);
@@ -25,7 +69,11 @@ void setUpBlankKey(CKeyButton* key)
 
 void setUpKey(CKeyButton* key, const Key& row)
 {
-    key->setKeyText(QLatin1String(row.text));
+    const QString caption = captionOf(row.code);
+    if (caption.isNull())
+        key->setKeyText(QLatin1String(row.text));
+    else
+        setCaption(key, caption);
     key->setKey(row.code);
     if (row.symbol)
         key->setSymbol(QString(QLatin1Char(row.symbol)));
@@ -75,6 +123,19 @@ CKeyButton* build(QWidget* grid, const Plan& plan, QList<CKeyButton*>* keys)
     CKeyButton* apply = keyOf(*keys, Key_Apply);
     apply->setSelected(true);
     return apply;
+}
+
+/// Captions the keys of \a grid anew after a change of the language. Keys that the grid did not
+/// make, and those whose texts the application has changed, stay as they are.
+void translate(QWidget* grid)
+{
+    const QObjectList children = grid->children();
+    for (int i = 0; i < children.size(); ++i) {
+        CKeyButton* const key = qobject_cast<CKeyButton*>(children.at(i));
+        const QVariant caption = key ? key->property(captionProperty) : QVariant();
+        if (caption.isValid() && caption.toString() == key->getKeyText())
+            setCaption(key, captionOf(key->key()));
+    }
 }
 
 /// Gives \a key the pictures from \a pressed on, and white text, black while it is selected.

@@ -46,6 +46,7 @@ struct Plan {
 const int inheritedSpacing = -1;
 
 CKeyButton* build(QWidget* grid, const Plan& plan, QList<CKeyButton*>* keys);
+void translate(QWidget* grid);
 void setLook(CKeyButton* key, CWidgetStyle::KeyStatus pressed);
 
 void watch(QObject* grid, QList<CKeyButton*>* keys, CKeyButton* key);

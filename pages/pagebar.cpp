@@ -3,6 +3,7 @@
 #include "style/keptpictures_p.h"
 #include "widgets/pushbutton.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -157,7 +158,8 @@ void CPageBar::clear()
 /// Writes the text anew from the current page and the number of pages, and repaints.
 void CPageBar::setText()
 {
-    m_text = QString::fromLatin1("Page %1 of %2").arg(m_currentIndex + 1).arg(m_count);
+    //: %1 is the page that is shown, %2 the number of pages. There are 98 pixels for it.
+    m_text = tr("Page %1 of %2").arg(m_currentIndex + 1).arg(m_count);
     update();
 }
 
@@ -223,6 +225,14 @@ void CPageBar::turnTo(int index)
     m_currentIndex = index;
     setText();
     Q_EMIT pageChanged(m_currentIndex);
+}
+
+/// The text follows the language of the application.
+void CPageBar::changeEvent(QEvent* event)
+{
+    CWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        setText();
 }
 
 /// Paints background and border, then "Page 1 of 3", turned in a vertical bar.

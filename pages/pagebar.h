@@ -49,6 +49,7 @@ Q_SIGNALS:
     void pageChanged(int index);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -5,6 +5,7 @@
 #include "widgets/painting_p.h"
 #include "widgets/widgetstack.h"
 
+#include <QEvent>
 #include <QPainter>
 
 namespace
@@ -242,6 +243,15 @@ void CWidget::lockWidget()
 void CWidget::unlockWidget()
 {
     setEnabled(true);
+}
+
+/// Has a tree of CWidgets take over the texts of another language, through translate() of the
+/// topmost of them. Each gets this event, but that call goes down by itself.
+void CWidget::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange && !qobject_cast<CWidget*>(parentWidget()))
+        translate();
 }
 
 /// Paints background colour, background picture and border, in this order.

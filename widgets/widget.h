@@ -60,6 +60,7 @@ public Q_SLOTS:
     void unlockWidget();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
