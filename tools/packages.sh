@@ -46,7 +46,7 @@ cwidget_run_packages() {
 # What forms, translations and accessibility and their tests need besides: Designer with its plugins
 # and tools, the accessibility bus, and a font with Chinese letters.
 cwidget_designer_packages() {
-    echo dbus-daemon dbus-bin at-spi2-core fonts-wqy-microhei
+    echo dbus-daemon dbus-bin at-spi2-core python3-pyatspi fonts-wqy-microhei
     case $1 in
         5) echo qttools5-dev qttools5-dev-tools ;;
         6) echo qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools ;;

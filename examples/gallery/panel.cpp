@@ -3,6 +3,7 @@
 #include "controlsscreen.h"
 #include "devicesscreen.h"
 #include "entryscreen.h"
+#include "languagebutton.h"
 #include "listsscreen.h"
 #include "parmscreen.h"
 #include "picturesscreen.h"
@@ -239,6 +240,9 @@ void Panel::addBottomBar()
     m_hint->setTextColor(Qt::white);
     m_hint->setGeometry(column + layout::margin - 2, 8, 520, 28);
     addState(bar);
+    CPushButton* language = new LanguageButton(bar);
+    language->setFixedSize(44, 30);
+    language->move(656, 7);
 }
 
 void Panel::addState(QWidget* bar)

@@ -1,0 +1,59 @@
+#include "languagebutton.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+namespace
+{
+
+// What the button says, and the ending of the file; none for the texts as they are.
+const struct Language {
+    const char* label;
+    const char* file;
+} languages[] = {
+    // clang-format off
+    {"EN", 0},
+    {"DE", "de"},
+    {"ZH", "zh_CN"},
+    // clang-format on
+};
+
+const int languageCount = sizeof languages / sizeof languages[0];
+
+QString fileOf(const Language& language)
+{
+    return QString::fromUtf8(GALLERY_TRANSLATIONS "/quorlin-cwidget_%1.qm")
+        .arg(QString::fromLatin1(language.file));
+}
+
+bool isThere(const Language& language)
+{
+    return !language.file || QFile::exists(fileOf(language));
+}
+
+} // namespace
+
+LanguageButton::LanguageButton(QWidget* parent) : CPushButton(parent), m_language(0)
+{
+    bool complete = true;
+    for (int i = 0; i < languageCount; ++i)
+        complete = complete && isThere(languages[i]);
+    setVisible(complete);
+    setStyle(DefaultStyle, true);
+    setText(QString::fromLatin1(languages[0].label));
+    connect(this, SIGNAL(clicked()), this, SLOT(next()));
+}
+
+void LanguageButton::next()
+{
+    speak((m_language + 1) % languageCount);
+}
+
+void LanguageButton::speak(int language)
+{
+    QCoreApplication::removeTranslator(&m_translator);
+    m_language = language;
+    setText(QString::fromLatin1(languages[language].label));
+    if (languages[language].file && m_translator.load(fileOf(languages[language])))
+        QCoreApplication::installTranslator(&m_translator);
+}

@@ -1,0 +1,106 @@
+#!/usr/bin/python3
+"""Presses a button of the gallery as a screen reader or a test robot does: through AT-SPI.
+
+usage: pressbutton.py GALLERY     on a session bus, for example that of dbus-run-session
+
+The gallery runs on an X server of its own. A button and an entry of the menu are found by their
+names, and what comes of pressing them is looked up in the tree of accessible objects again.
+"""
+
+import os
+import subprocess
+import sys
+import time
+
+TIMEOUT = 30  # seconds
+
+
+def start_x_server():
+    """An X server on a display that is free, which it also puts into the environment."""
+    read_end, write_end = os.pipe()
+    server = subprocess.Popen(
+        ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1024x768x24", "-nolisten", "tcp"],
+        pass_fds=[write_end], stderr=subprocess.DEVNULL)
+    os.close(write_end)
+    display = os.read(read_end, 16).decode().strip()
+    os.environ.update(DISPLAY=":" + display, QT_QPA_PLATFORM="xcb", QT_XCB_GL_INTEGRATION="none")
+    return server
+
+
+def hear_events():
+    """Lets the client's cache follow what the programs on the bus tell."""
+    from gi.repository import GLib
+    while GLib.MainContext.default().iteration(False):
+        pass
+
+
+def wait_for(what, look):
+    """The first result of look() that is not None; fails when there is none in time."""
+    end = time.monotonic() + TIMEOUT
+    while time.monotonic() < end:
+        try:
+            found = look()
+        except Exception:  # the tree changes while it is walked
+            found = None
+        if found is not None:
+            return found
+        hear_events()
+        time.sleep(0.1)
+    sys.exit("%s: not within %d seconds" % (what, TIMEOUT))
+
+
+def find(root, name, role):
+    """The visible object called name below root, or None."""
+    import pyatspi
+
+    def fits(accessible):
+        return (accessible.name == name and accessible.getRoleName() == role and
+                accessible.getState().contains(pyatspi.STATE_SHOWING))
+    root.clear_cache()
+    return pyatspi.findDescendant(root, fits, breadth_first=True)
+
+
+def press(accessible, wanted):
+    """Does the action called wanted."""
+    action = accessible.queryAction()
+    names = [action.getName(i) for i in range(action.nActions)]
+    if not action.doAction(names.index(wanted)):
+        sys.exit("%s does not take its action %s" % (accessible.name, wanted))
+
+
+def run(gallery):
+    import pyatspi
+
+    def application():
+        desktop = pyatspi.Registry.getDesktop(0)
+        desktop.clear_cache()
+        for child in desktop:
+            if child is not None and child.get_process_id() == gallery.pid:
+                return child
+        return None
+
+    root = wait_for("the gallery on the bus", application)
+    button = wait_for("a button", lambda: find(root, "Start", "push button"))
+    press(button, "Press")
+    wait_for("what the button does",
+             lambda: find(root, "Start pressed, click 1", "label"))
+    menu = wait_for("an entry of the menu", lambda: find(root, "Text entry", "push button"))
+    press(menu, "Press")
+    wait_for("the title of its screen", lambda: find(root, "Text entry", "label"))
+    print("ok")
+
+
+def main():
+    server = start_x_server()
+    gallery = subprocess.Popen([sys.argv[1]])
+    try:
+        run(gallery)
+    finally:
+        gallery.terminate()
+        gallery.wait()
+        server.terminate()
+        server.wait()
+
+
+if __name__ == "__main__":
+    main()
