@@ -49,6 +49,6 @@ cwidget_designer_packages() {
     echo dbus-daemon dbus-bin at-spi2-core python3-pyatspi fonts-wqy-microhei
     case $1 in
         5) echo qttools5-dev qttools5-dev-tools ;;
-        6) echo qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools ;;
+        6) echo qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev ;;
     esac
 }
