@@ -75,6 +75,8 @@ const struct Row {
 
 QString textOf(const QVariant& value)
 {
+    if (value.userType() == qMetaTypeId<Qt::Alignment>()) // Qt 6 would write its names
+        return QString::number(static_cast<int>(value.value<Qt::Alignment>()));
     if (value.canConvert<QColor>() && value.value<QColor>().isValid() && !value.canConvert<int>())
         return value.value<QColor>().name();
     return value.canConvert<int>() && value.toString().isEmpty() ? QString::number(value.toInt())

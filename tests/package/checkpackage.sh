@@ -3,9 +3,9 @@
 #
 # Installs what BUILD holds into a folder of its own, looks at it, builds and runs a consumer
 # outside the tree against it, and takes all of it back.
-# QMAKE is that of Qt 4, and empty for the other ones.
+# QMAKE is that of Qt 4, and left out for the other ones.
 set -euo pipefail
-build=$1 consumer=$2 cmake=$3 cxx=$4 standard=$5 sanitize=$6 generator=$7 qt=$8 classes=$9 qmake=${10}
+build=$1 consumer=$2 cmake=$3 cxx=$4 standard=$5 sanitize=$6 generator=$7 qt=$8 classes=$9 qmake=${10:-}
 
 stage=$(mktemp -d)
 trap 'rm -rf "$stage"' EXIT
@@ -65,7 +65,9 @@ check_component() {
 }
 runtime=$(check_component runtime "/lib$name\.so\.1\$" "/lib$name\.so\.1\.0\.0\$" \
     "/share/$name/widget-style\.xml\$")
-test "$runtime" -eq 3 || fail "the component runtime holds $runtime files instead of 3"
+translations=$(find "$build/translations" -name '*.qm' | wc -l)
+test "$runtime" -eq $((3 + translations)) ||
+    fail "the component runtime holds $runtime files instead of 3 and $translations translations"
 check_component development "/lib$name\.so\$" "/$name\.pc\$" "/${package}Config\.cmake\$" \
     "/$name/CWidget\$" "/$name/style/global\.h\$" >/dev/null
 rm -f "$build"/install_manifest_{runtime,development}.txt

@@ -336,8 +336,9 @@ void tst_stylechecker::nestingAndEntities_data()
         << "<r>\n" + open.repeated(1000000) << QString::fromLatin1("2:14998 error too-deep");
     const QByteArray head =
         "<!DOCTYPE r [\n  <!ENTITY a \"" + QByteArray("a").repeated(100000) + "\">]><r>";
-    QTest::newRow("4 million characters")
-        << head + QByteArray("&a;").repeated(40) + "</r>" << QString();
+    if (CWIDGET_QT_MAJOR < 6) // whose reader of trees stops at 4,096 characters from entities
+        QTest::newRow("4 million characters")
+            << head + QByteArray("&a;").repeated(40) + "</r>" << QString();
     QTest::newRow("5 million characters") << head + QByteArray("&a;").repeated(50) + "</r>"
                                           << QString::fromLatin1("2:3 error entity-too-large");
     QTest::newRow("2,000 million characters") << head + QByteArray("&a;").repeated(20000) + "</r>"
