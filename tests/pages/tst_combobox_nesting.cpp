@@ -37,17 +37,21 @@ public:
     static void operator delete(void* memory, size_t size)
     {
         memset(memory, 0xdd, size);
-        graves().append(
-            QByteArray::fromRawData(static_cast<char*>(memory), static_cast<int>(size)));
+        static Graves graves;
+        graves.all.append(memory);
     }
 
 private:
-    /// Keeps the memory from being used again.
-    static QList<QByteArray>& graves()
-    {
-        static QList<QByteArray> all;
-        return all;
-    }
+    /// Keeps the memory from being used again before the end.
+    struct Graves {
+        ~Graves()
+        {
+            for (int i = 0; i < all.size(); ++i)
+                ::operator delete(all.at(i));
+        }
+
+        QList<void*> all;
+    };
 };
 
 QComboBox* qtBox(const LoggedComboBox& f)
