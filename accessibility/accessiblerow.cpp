@@ -10,6 +10,7 @@
 #include "parm/parmcombobox.h"
 #include "parm/parmlabel.h"
 #include "parm/parmlineedit.h"
+#include "style/table_p.h"
 #include "widgets/checkbox.h"
 #include "widgets/clockprogress.h"
 #include "widgets/label.h"
@@ -164,7 +165,7 @@ const Row rows[] = {
 /// The row of a class; null when there is nothing to tell of it.
 const Row* rowOf(const QString& className)
 {
-    for (size_t i = 0; i < sizeof rows / sizeof rows[0]; ++i) {
+    for (int i = 0; i < table::count(rows); ++i) {
         if (className == QLatin1String(rows[i].className))
             return &rows[i];
     }

@@ -2,6 +2,7 @@
 
 #include "hotplug/devicewatcher_p.h"
 #include "hotplug/uevent_p.h"
+#include "style/table_p.h"
 
 #include <QCoreApplication>
 #include <QSocketNotifier>
@@ -150,7 +151,7 @@ const QDeviceWatcherPrivate::ActionRow QDeviceWatcherPrivate::s_actions[] = {
 /// The row of \a action, which is in lower case; null when there is none.
 const QDeviceWatcherPrivate::ActionRow* QDeviceWatcherPrivate::rowOf(const QString& action)
 {
-    for (size_t i = 0; i < sizeof s_actions / sizeof s_actions[0]; ++i) {
+    for (int i = 0; i < table::count(s_actions); ++i) {
         if (action == QLatin1String(s_actions[i].action))
             return &s_actions[i];
     }

@@ -2,6 +2,7 @@
 
 #include "hotplug/devicewatcher.h"
 #include "style/qtcompat.h"
+#include "style/table_p.h"
 #include "style/widgetstyle.h"
 
 #include <QFileInfo>
@@ -24,6 +25,8 @@ const InventoryRow inventory[] = {
     {"grep Storage",  "Storage",  CWidgetStyle::DeviceStorage},
 };
 // clang-format on
+static_assert(table::count(inventory) == CWidgetStyle::DeviceStorage,
+              "each DeviceType, from 1, is looked for");
 
 const char listProgram[] = "/usr/bin/lsusb";
 const char listCommand[] = "/usr/bin/lsusb -v";
@@ -114,7 +117,7 @@ void CHotplugWatcher::detectDevice()
     lister.setStandardOutputProcess(&filter);
     lister.setStandardErrorFile(QLatin1String("/dev/null")); // nobody reads its complaints
     const bool canList = hasLister();
-    for (size_t i = 0; i < sizeof inventory / sizeof inventory[0]; ++i)
+    for (int i = 0; i < table::count(inventory); ++i)
         CWidgetStyle::setDeviceAvailable(inventory[i].type,
                                          canList && isListed(inventory[i], lister, filter));
 }

@@ -2,6 +2,7 @@
 
 #include "keypad/keybutton.h"
 #include "keypad/keygrid_p.h"
+#include "style/table_p.h"
 
 #include <QLayout>
 
@@ -64,7 +65,7 @@ const keygrid::Key keys[] = {
     // clang-format on
 };
 
-const keygrid::Row rows[] = {
+constexpr keygrid::Row rows[] = {
     // clang-format off
     {10, keygrid::inheritedSpacing, false},
     {10, keygrid::inheritedSpacing, false},
@@ -74,8 +75,10 @@ const keygrid::Row rows[] = {
     { 2, keygrid::inheritedSpacing, true},
     // clang-format on
 };
+static_assert(keygrid::keysIn(rows, table::count(rows)) == table::count(keys),
+              "the rows take all keys");
 
-const keygrid::Plan plan = {keys, rows, sizeof rows / sizeof rows[0], 1, 5, 3, 0, 4};
+const keygrid::Plan plan = {keys, rows, table::count(rows), 1, 5, 3, 0, 4};
 
 bool isLetter(const CKeyButton* key)
 {

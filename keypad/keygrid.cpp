@@ -2,6 +2,7 @@
 
 #include "keypad/keybutton.h"
 #include "style/keptpictures_p.h"
+#include "style/table_p.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>
@@ -48,7 +49,7 @@ const char captionProperty[] = "caption";
 /// none of its own.
 QString captionOf(int code)
 {
-    for (size_t i = 0; i < sizeof captions / sizeof captions[0]; ++i) {
+    for (int i = 0; i < table::count(captions); ++i) {
         if (captions[i].code == code)
             return QCoreApplication::translate("CAbstractKeyPad", captions[i].text);
     }

@@ -45,6 +45,12 @@ struct Plan {
 /// The spacing that a layout has from its parent or, the outermost one, from the style.
 const int inheritedSpacing = -1;
 
+/// How many keys the rows from \a rows on take together.
+constexpr int keysIn(const Row* rows, int rowCount)
+{
+    return rowCount == 0 ? 0 : rows->keyCount + keysIn(rows + 1, rowCount - 1);
+}
+
 CKeyButton* build(QWidget* grid, const Plan& plan, QList<CKeyButton*>* keys);
 void translate(QWidget* grid);
 void setLook(CKeyButton* key, CWidgetStyle::KeyStatus pressed);

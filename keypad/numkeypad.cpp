@@ -2,6 +2,7 @@
 
 #include "keypad/keybutton.h"
 #include "keypad/keygrid_p.h"
+#include "style/table_p.h"
 
 #include <QLayout>
 
@@ -36,7 +37,7 @@ const keygrid::Key keys[] = {
     // clang-format on
 };
 
-const keygrid::Row rows[] = {
+constexpr keygrid::Row rows[] = {
     // clang-format off
     {3, 20,                        false},
     {3, 20,                        false},
@@ -46,9 +47,11 @@ const keygrid::Row rows[] = {
     {5, keygrid::inheritedSpacing, false},
     // clang-format on
 };
+static_assert(keygrid::keysIn(rows, table::count(rows)) == table::count(keys),
+              "the rows take all keys");
 
 const keygrid::Plan plan = {
-    keys, rows, sizeof rows / sizeof rows[0], 0, 20, 0, 100, keygrid::inheritedSpacing,
+    keys, rows, table::count(rows), 0, 20, 0, 100, keygrid::inheritedSpacing,
 };
 
 } // namespace

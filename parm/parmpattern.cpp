@@ -1,5 +1,6 @@
 #include "parm/parmpattern_p.h"
 
+#include "style/table_p.h"
 #include "style/widgetstyle.h"
 
 #include <QHBoxLayout>
@@ -26,12 +27,7 @@ const struct SplitRow {
     {5, 1}, // Proportion5To1
     // clang-format on
 };
-
-const SplitRow* splitOf(int proportion)
-{
-    const int count = sizeof splits / sizeof splits[0];
-    return proportion >= 0 && proportion < count ? &splits[proportion] : 0;
-}
+static_assert(table::count(splits) == Proportion5To1 + 1, "each Proportion has its shares");
 
 int share(int width, int part, const SplitRow& split)
 {
@@ -70,7 +66,7 @@ CLabel* addNameLabel(QHBoxLayout* layout, const QString& name, int borderWidth)
 /// nothing.
 void setWidths(int width, Proportion proportion, QWidget* name, QWidget* value, int nameExtra)
 {
-    const SplitRow* const split = splitOf(proportion);
+    const SplitRow* const split = table::row(splits, proportion);
     if (!split)
         return;
     name->setFixedWidth(share(width, split->name, *split) + nameExtra);
@@ -81,8 +77,7 @@ void setWidths(int width, Proportion proportion, QWidget* name, QWidget* value, 
 /// field of \a width pixels; Proportion1To1 when none did.
 Proportion proportionOf(int width, const QWidget* name, const QWidget* value)
 {
-    const int count = sizeof splits / sizeof splits[0];
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < table::count(splits); ++i) {
         if (name->maximumWidth() == share(width, splits[i].name, splits[i]) &&
             value->maximumWidth() == share(width, splits[i].value, splits[i]))
             return static_cast<Proportion>(i);

@@ -1,3 +1,4 @@
+#include "style/table_p.h"
 #include "style/widgetstyle.h"
 
 namespace
@@ -33,12 +34,6 @@ QPixmap load(const Slice& slice)
     return load(slice.image, slice.index * slice.width, 0, slice.width, slice.height);
 }
 
-template <typename Row, size_t count>
-bool inTable(const Row (&)[count], int status)
-{
-    return status >= 0 && static_cast<size_t>(status) < count;
-}
-
 // ---- buttons
 
 const int buttonWidth = 120;
@@ -69,6 +64,8 @@ const struct {
     {"RCTB_BUTTONGRAY_3states.png",   "BIG_RCTB_BUTTONGRAY_3states.png",   SelectedLook}, // 15
     // clang-format on
 };
+static_assert(table::count(buttons) == CWidgetStyle::FixedSpare2 + 1,
+              "each ButtonStatus has a picture");
 
 // ---- keys: one row per key; each key has the states pressed, released and selected
 
@@ -101,11 +98,13 @@ const struct {
 };
 
 const StripLook keyLooks[] = {PressedLook, ReleasedLook, SelectedLook};
-const int keyLookCount = sizeof keyLooks / sizeof keyLooks[0];
+const int keyLookCount = table::count(keyLooks);
+static_assert(table::count(keys) * keyLookCount == CWidgetStyle::NumBackspaceSelected + 1,
+              "each KeyStatus has a picture");
 
 // ---- lamps
 
-const int ledCount = 6;
+const int ledCount = CWidgetStyle::LedState5 + 1;
 
 const struct {
     const char* image;
@@ -118,6 +117,7 @@ const struct {
     {"led_16X16 pixels.png",  16, 16},
     // clang-format on
 };
+static_assert(table::count(leds) == CWidgetStyle::SmallIcon + 1, "each IconMode has a picture");
 
 // ---- arrows, signs and grounds; a row without image is a null pixmap
 
@@ -137,6 +137,8 @@ const Slice pageSwitches[] = {
     {0,                        0,  0,  0}, // 11
     // clang-format on
 };
+static_assert(table::count(pageSwitches) == CWidgetStyle::DownSelected + 1,
+              "each PageSwitchStatus has a row");
 
 const Slice closeButtons[] = {
     // clang-format off
@@ -145,6 +147,8 @@ const Slice closeButtons[] = {
     {"TB_CLOSE_3states.png", SelectedLook, 44, 44}, // 2
     // clang-format on
 };
+static_assert(table::count(closeButtons) == CWidgetStyle::CloseSelected + 1,
+              "each CloseStatus has a picture");
 
 const Slice entries[] = {
     // clang-format off
@@ -153,6 +157,8 @@ const Slice entries[] = {
     {"menuentry_top-140x50.png", 2, 140, 50}, // 2
     // clang-format on
 };
+static_assert(table::count(entries) == CWidgetStyle::EntryThird + 1,
+              "each EntryStatus has a picture");
 
 const Slice zooms[] = {
     // clang-format off
@@ -164,6 +170,8 @@ const Slice zooms[] = {
     {"stock-zoom-out-16_2states.png", PressedLook,  16, 16}, // 5
     // clang-format on
 };
+static_assert(table::count(zooms) == CWidgetStyle::ZoomOutSelected + 1,
+              "each ZoomStatus has a picture");
 
 const Slice slides[] = {
     // clang-format off
@@ -175,6 +183,8 @@ const Slice slides[] = {
     {"go-next-view_2states.png",     PressedLook,  16, 16}, // 5
     // clang-format on
 };
+static_assert(table::count(slides) == CWidgetStyle::SlidNextSelected + 1,
+              "each SlidStatus has a picture");
 
 const Slice arrows[] = {
     // clang-format off
@@ -186,10 +196,14 @@ const Slice arrows[] = {
     {"ARROW-WHITE.png",       0, 26, 26}, // 5
     // clang-format on
 };
+static_assert(table::count(arrows) == CWidgetStyle::WhiteArrowA + 1,
+              "each ArrowStatus has a picture");
 
 const char* const signalImages[] = {
     "wireless-0.png", "wireless-25.png", "wireless-50.png", "wireless-75.png", "wireless-100.png",
 };
+static_assert(table::count(signalImages) == CWidgetStyle::Signal100 + 1,
+              "each WIFISignalStatus has a picture");
 
 // ---- the application grid
 
@@ -198,6 +212,8 @@ const int appHeight = 44;
 const int appRows[] = {0, 1, 1, 0, 2, 2, 3, 1, 1, 3, 2, 2, 6, 4, 4, 6, 5, 5, 9, 7, 7, 9, 8, 8};
 // Wanted: only the first six tiles come from other columns than the first.
 const int appColumns[] = {0, 1, 2, 0, 1, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
+static_assert(table::count(appRows) == CWidgetStyle::App23 + 1, "each AppStatus has a tile's row");
+static_assert(table::count(appColumns) == table::count(appRows), "and its column");
 
 } // namespace
 
@@ -205,7 +221,7 @@ const int appColumns[] = {0, 1, 2, 0, 1, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 
 /// pixmap for an unknown status.
 QPixmap CWidgetStyle::getButtonStatus(ButtonStatus status, bool normalSize)
 {
-    if (!inTable(buttons, status))
+    if (!table::has(buttons, status))
         return QPixmap();
     const char* image = normalSize ? buttons[status].normal : buttons[status].big;
     return load(image, buttons[status].look * buttonWidth, 0, buttonWidth, buttonHeight);
@@ -220,7 +236,7 @@ QPixmap CWidgetStyle::getKeyStatus(KeyStatus status)
         return load("GENKB_DELALL_BTN.png", 150, 0, 750, 45);
     if (status == NumDelSelected)
         return load("HEXKB_DEL_BTN.png", 100, 0, 50, 40);
-    if (status < 0 || !inTable(keys, status / keyLookCount))
+    if (status < 0 || !table::has(keys, status / keyLookCount))
         return QPixmap();
     const int key = status / keyLookCount;
     const int x = keyLooks[status % keyLookCount] * keys[key].width;
@@ -230,7 +246,7 @@ QPixmap CWidgetStyle::getKeyStatus(KeyStatus status)
 /// The picture of a lamp. An unknown status gives the first picture, an unknown size a null pixmap.
 QPixmap CWidgetStyle::getLEDStatus(LEDStatus status, IconMode mode)
 {
-    if (!inTable(leds, mode))
+    if (!table::has(leds, mode))
         return QPixmap();
     const int index = status >= 0 && status < ledCount ? status : 0;
     return load(leds[mode].image, index * leds[mode].pitch, 0, leds[mode].size, leds[mode].size);
@@ -239,7 +255,7 @@ QPixmap CWidgetStyle::getLEDStatus(LEDStatus status, IconMode mode)
 /// The picture of a page bar's arrow; null for the selected ones and for an unknown status.
 QPixmap CWidgetStyle::getPageSwitchStatus(PageSwitchStatus status)
 {
-    if (!inTable(pageSwitches, status) || !pageSwitches[status].image)
+    if (!table::has(pageSwitches, status) || !pageSwitches[status].image)
         return QPixmap();
     return load(pageSwitches[status]);
 }
@@ -254,7 +270,7 @@ QPixmap CWidgetStyle::getLockStatus(LockStatus status)
 /// A tile of the application grid, 93 x 44 pixels; the first one for an unknown status.
 QPixmap CWidgetStyle::getAppStatus(AppStatus status)
 {
-    const int tile = inTable(appRows, status) ? status : 0;
+    const int tile = table::has(appRows, status) ? status : 0;
     const int x = appColumns[tile] * appWidth;
     return load("selection_final.png", x, appRows[tile] * appHeight, appWidth, appHeight);
 }
@@ -276,35 +292,35 @@ QPixmap CWidgetStyle::getBluetoothDeviceIcon(int kind)
 /// The picture of a close button, 44 x 44 pixels; the released one for an unknown status.
 QPixmap CWidgetStyle::getCloseStatus(CloseStatus status)
 {
-    return load(closeButtons[inTable(closeButtons, status) ? status : CloseReleased]);
+    return load(closeButtons[table::has(closeButtons, status) ? status : CloseReleased]);
 }
 
 /// The ground of a menu entry, 140 x 50 pixels; a null pixmap for an unknown status.
 QPixmap CWidgetStyle::getEntryStatus(EntryStatus status)
 {
-    return inTable(entries, status) ? load(entries[status]) : QPixmap();
+    return table::has(entries, status) ? load(entries[status]) : QPixmap();
 }
 
 /// The sign of the wireless signal, 24 x 24 pixels; no signal for an unknown status.
 QPixmap CWidgetStyle::getWIFISignalStatus(WIFISignalStatus status)
 {
-    return load(signalImages[inTable(signalImages, status) ? status : Signal0]);
+    return load(signalImages[table::has(signalImages, status) ? status : Signal0]);
 }
 
 /// The picture of a zoom button, 16 x 16 pixels; 'zoom in', released, for an unknown status.
 QPixmap CWidgetStyle::getZoomStatus(ZoomStatus status)
 {
-    return load(zooms[inTable(zooms, status) ? status : ZoomInReleased]);
+    return load(zooms[table::has(zooms, status) ? status : ZoomInReleased]);
 }
 
 /// The picture of an arrow, 20 x 20 or, the white ones, 26 x 26 pixels; null for an unknown status.
 QPixmap CWidgetStyle::getArrowStatus(ArrowStatus status)
 {
-    return inTable(arrows, status) ? load(arrows[status]) : QPixmap();
+    return table::has(arrows, status) ? load(arrows[status]) : QPixmap();
 }
 
 /// The picture of a slide button, 16 x 16 pixels; 'previous', released, for an unknown status.
 QPixmap CWidgetStyle::getSlidStatus(SlidStatus status)
 {
-    return load(slides[inTable(slides, status) ? status : SlidPrevReleased]);
+    return load(slides[table::has(slides, status) ? status : SlidPrevReleased]);
 }

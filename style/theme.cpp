@@ -1,15 +1,10 @@
+#include "style/table_p.h"
 #include "style/widgetstyle.h"
 
 #include <QApplication>
 
 namespace
 {
-
-template <typename Row, size_t count>
-const Row* rowOf(const Row (&table)[count], int code)
-{
-    return code >= 0 && static_cast<size_t>(code) < count ? &table[code] : 0;
-}
 
 // One row per colour code. Equal colours are distinct roles that happen to look alike.
 const struct ColorRow {
@@ -49,6 +44,7 @@ const struct ColorRow {
     {false, Qt::black, 0xFF9999}, // 28
     // clang-format on
 };
+static_assert(table::count(colors) == CWidgetStyle::Color28 + 1, "each ColorCode has a row");
 
 // One row per font code. Without a family it is the application's font; a size of 0 pixels leaves
 // size and weight as they are.
@@ -66,6 +62,7 @@ const struct FontRow {
     {0,           13}, // 6
     // clang-format on
 };
+static_assert(table::count(fonts) == CWidgetStyle::Font6 + 1, "each FontType has a row");
 
 // One row per size code, in pixels.
 const struct SizeRow {
@@ -85,13 +82,15 @@ const struct SizeRow {
     {560, 440}, // 9
     // clang-format on
 };
+static_assert(table::count(sizes) == CWidgetStyle::BetweenColumnsLowSize + 1,
+              "each SizeCode has a row");
 
 } // namespace
 
 /// The opaque colour of the palette with the given code; an invalid one for an unknown code.
 QColor CWidgetStyle::getColor(ColorCode code)
 {
-    const ColorRow* row = rowOf(colors, code);
+    const ColorRow* row = table::row(colors, code);
     if (!row)
         return QColor();
     return row->isGlobal ? QColor(row->global) : QColor(row->rgb);
@@ -101,7 +100,7 @@ QColor CWidgetStyle::getColor(ColorCode code)
 /// are made of the application's font.
 QFont CWidgetStyle::getFont(FontType type)
 {
-    const FontRow* row = rowOf(fonts, type);
+    const FontRow* row = table::row(fonts, type);
     if (!row)
         return QFont();
     QFont font = row->family ? QFont() : QApplication::font();
@@ -117,7 +116,7 @@ QFont CWidgetStyle::getFont(FontType type)
 /// The size, in pixels, of the area with the given code; 0 x 0 for an unknown code.
 QSize CWidgetStyle::getSize(SizeCode code)
 {
-    const SizeRow* row = rowOf(sizes, code);
+    const SizeRow* row = table::row(sizes, code);
     return row ? QSize(row->width, row->height) : QSize(0, 0);
 }
 

@@ -2,6 +2,7 @@
 
 #include "style/filerewrite_p.h"
 #include "style/qtcompat.h"
+#include "style/table_p.h"
 #include "style/xmlguard_p.h"
 
 #include <QDomDocument>
@@ -39,6 +40,8 @@ const struct {
     {"FieldValue", Style::FieldValue},
     {"FieldAll", Style::FieldAll},
 };
+static_assert(table::count(fieldElements) == Style::FieldAll + 1,
+              "each Style::Field has an element");
 
 QMap<QString, WidgetStyle> s_styleMap;
 
@@ -80,14 +83,9 @@ QDomElement nextWidget(QDomNode node)
     return node.toElement();
 }
 
-QDomElement fieldElement(const QDomElement& widget, size_t index)
+QDomElement fieldElement(const QDomElement& widget, int index)
 {
     return widget.firstChildElement(QLatin1String(fieldElements[index].element));
-}
-
-size_t fieldCount()
-{
-    return sizeof fieldElements / sizeof fieldElements[0];
 }
 
 QFont readFont(const QDomElement& element)
@@ -114,7 +112,7 @@ WidgetStyle readWidget(const QDomElement& element)
     WidgetStyle style;
     style.type = static_cast<quint32>(element.attribute(QLatin1String("type")).toInt());
     style.name = element.attribute(QLatin1String("name"));
-    for (size_t i = 0; i < fieldCount(); ++i) {
+    for (int i = 0; i < table::count(fieldElements); ++i) {
         bool ok = false;
         const Style entry = getStyle(&ok, fieldElements[i].field, fieldElement(element, i));
         if (ok)
@@ -146,7 +144,7 @@ bool setFamily(const QDomDocument& document, const QFont& font)
     bool changed = false;
     QDomElement widget = nextWidget(document.documentElement().firstChild());
     for (; !widget.isNull(); widget = nextWidget(widget.nextSibling())) {
-        for (size_t i = 0; i < fieldCount(); ++i)
+        for (int i = 0; i < table::count(fieldElements); ++i)
             changed |= CWidgetStyle::setStyle(fieldElement(widget, i), font);
     }
     return changed;

@@ -2,6 +2,7 @@
 
 #include "style/qtcompat.h"
 #include "style/stylewalk_p.h"
+#include "style/table_p.h"
 #include "style/widgetstyle.h"
 
 #include <QPainter>
@@ -253,7 +254,7 @@ void CCheckBox::drawTick(QPainter* painter)
     };
     painter->setPen(
         QPen(m_foregroundColor, tickPenWidth, Qt::SolidLine, Qt::RoundCap, Qt::MiterJoin));
-    painter->drawPolyline(points, sizeof points / sizeof points[0]);
+    painter->drawPolyline(points, table::count(points));
 }
 
 void CCheckBox::drawCaption(QPainter* painter)

@@ -1,5 +1,7 @@
 #include "widgets/progressbar.h"
 
+#include "style/table_p.h"
+
 #include <QLinearGradient>
 #include <QPainter>
 
@@ -175,7 +177,7 @@ QColor CProgressBar::getCurrentColor() const
     if (!m_gradientEnabled)
         return m_progressColor;
     const double count = static_cast<double>(m_maximum) + 1 - m_minimum;
-    for (size_t i = 0; i < sizeof colors / sizeof colors[0]; ++i) {
+    for (int i = 0; i < table::count(colors); ++i) {
         if (m_value > colors[i].above * count)
             return QColor(colors[i].color);
     }
@@ -207,7 +209,7 @@ void CProgressBar::drawProgress(QPainter* painter)
         return;
     const QColor color = getCurrentColor();
     QLinearGradient gradient(0, 0, 0, height() - 1);
-    for (size_t i = 0; i < sizeof gloss / sizeof gloss[0]; ++i)
+    for (int i = 0; i < table::count(gloss); ++i)
         gradient.setColorAt(gloss[i].position, gloss[i].white ? QColor(Qt::white) : color);
     painter->fillRect(progress & rect(), gradient);
 }

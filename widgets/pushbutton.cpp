@@ -3,6 +3,7 @@
 #include "style/keptpictures_p.h"
 #include "style/qtcompat.h"
 #include "style/stylewalk_p.h"
+#include "style/table_p.h"
 #include "style/widgetstyle.h"
 #include "widgets/heldupdates_p.h"
 #include "widgets/painting_p.h"
@@ -35,6 +36,7 @@ const struct StyleRow {
     {CWidgetStyle::FixedReleased,  CWidgetStyle::FixedPressed},
     // clang-format on
 };
+static_assert(table::count(styles) == CPushButton::FixedStyle + 1, "each ButtonStyle has pictures");
 
 // What the button keeps beside the attributes of the states.
 const CPushButton::ExtraAttr styleAttr = static_cast<CPushButton::ExtraAttr>(-1);
@@ -51,12 +53,7 @@ const struct StateRow {
     {CPushButton::SelectedPixmap, CPushButton::SelectedTextColor},
     // clang-format on
 };
-
-template <typename Row, size_t count>
-const Row* rowOf(const Row (&table)[count], int number)
-{
-    return number >= 0 && static_cast<size_t>(number) < count ? &table[number] : 0;
-}
+static_assert(table::count(states) == CPushButton::Selected + 1, "each ButtonState has a row");
 
 void drawSmoothly(QPainter* painter, const QRect& rect, const QPixmap& pixmap)
 {
@@ -191,13 +188,14 @@ void CPushButton::setExtraAttr(ExtraAttr attr, const QVariant& value)
 /// it.
 void CPushButton::setStyle(ButtonStyle style, bool normalSize)
 {
-    const bool known = rowOf(styles, style) != 0;
-    const StyleRow* const row = known ? rowOf(styles, style) : &styles[DefaultStyle];
-    m_extraAttrs.insert(styleAttr, static_cast<int>(known ? style : DefaultStyle));
+    if (!table::has(styles, style))
+        style = DefaultStyle;
+    const StyleRow& row = styles[style];
+    m_extraAttrs.insert(styleAttr, static_cast<int>(style));
     m_extraAttrs.insert(normalSizeAttr, normalSize);
-    const QPixmap released = keptpictures::button(row->released, normalSize);
+    const QPixmap released = keptpictures::button(row.released, normalSize);
     setBackground(released);
-    setExtraAttr(PressedPixmap, keptpictures::button(row->pressed, normalSize));
+    setExtraAttr(PressedPixmap, keptpictures::button(row.pressed, normalSize));
     setExtraAttr(ReleasedPixmap, released);
     setTextColor(Qt::white);
 }
@@ -256,7 +254,7 @@ void CPushButton::setSelected(bool selected)
 /// unknown state has none.
 void CPushButton::updateStatus(ButtonState state)
 {
-    if (const StateRow* row = rowOf(states, state)) {
+    if (const StateRow* row = table::row(states, state)) {
         m_looksPressed = state == Pressed;
         if (m_extraAttrs.contains(row->pixmap))
             m_background = m_extraAttrs.value(row->pixmap).value<QPixmap>();
