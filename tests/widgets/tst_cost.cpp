@@ -1,21 +1,23 @@
+#include "support/heap.h"
 #include "support/testing.h"
 
-#include "pages/pagelistwidget.h"
-#include "pages/pagelistwidgetitem.h"
-#include "pages/pagelistwidgetitemarea.h"
+#include "widgets/clockprogress.h"
+#include "widgets/lineedit.h"
 #include "widgets/pushbutton.h"
 
-// What a finger's touch may cost, counted in events and pictures and not in time.
+#include <QApplication>
+
+// What controls may cost, counted in events, pictures and bytes and not in time.
 
 namespace
 {
 
-QStringList numberedTexts(int count)
+CPushButton* newButton(QWidget* parent)
 {
-    QStringList texts;
-    for (int i = 0; i < count; ++i)
-        texts.append(QString::fromLatin1("item %1").arg(i));
-    return texts;
+    CPushButton* button = new CPushButton(parent);
+    button->setStyle(CPushButton::GreenStyle, true);
+    button->setText(QString::fromLatin1("Button"));
+    return button;
 }
 
 /// How often \a button is painted until nothing is left to do after \a action.
@@ -46,7 +48,9 @@ private Q_SLOTS:
     void touchPaintsOncePerLook();
     void slotPaintsTheTouchedButton();
     void buttonsShareTheirPictures();
-    void turnedPageChangesTwoPagesOfRows();
+    void heapOfAButton();
+    void clockPaintsOncePerFrame();
+    void sheetsOfALineEdit();
 };
 
 void tst_cost::touchPaintsOncePerLook()
@@ -86,29 +90,37 @@ void tst_cost::buttonsShareTheirPictures()
     QVERIFY(one.getBackground().cacheKey() != other.getBackground().cacheKey());
 }
 
-void tst_cost::turnedPageChangesTwoPagesOfRows()
+/// A button with pictures and a text takes no more than a plain one of Qt's.
+void tst_cost::heapOfAButton()
 {
-    CPageListWidget list;
-    list.addItems(numberedTexts(1000));
-    list.show(500);
-    QVERIFY(testcompat::waitForWindow(&list));
-    QCoreApplication::processEvents();
-    QList<testing::EventCounter*> counters;
-    const QList<CPageListWidgetItem*> rows = list.findChildren<CPageListWidgetItem*>();
-    for (int i = 0; i < rows.size(); ++i) {
-        counters.append(new testing::EventCounter(rows.at(i), QEvent::Show));
-        counters.append(new testing::EventCounter(rows.at(i), QEvent::Hide));
-    }
-    CPageListWidgetItemArea* area = list.findChild<CPageListWidgetItemArea*>();
-    testing::EventCounter layouts(area, QEvent::LayoutRequest);
-    area->setCurrentPage(3);
-    QCoreApplication::processEvents();
-    int changes = 0;
-    for (int i = 0; i < counters.size(); ++i)
-        changes += counters.at(i)->count();
-    qDeleteAll(counters);
-    QCOMPARE(changes, 10);
-    QVERIFY(layouts.count() <= 1);
+    if (!testing::isHeapKnown())
+        CWIDGET_SKIP("the heap of this program cannot be measured");
+    const int count = 1000;
+    const size_t most = 1800;
+    QWidget panel;
+    delete newButton(&panel);
+    const size_t before = testing::heapInUse();
+    for (int i = 0; i < count; ++i)
+        newButton(&panel);
+    const size_t each = (testing::heapInUse() - before) / count;
+    QVERIFY2(each > 0 && each <= most, qPrintable(QString::number(each)));
+}
+
+void tst_cost::clockPaintsOncePerFrame()
+{
+    CClockProgress clock;
+    clock.setVisible(true);
+    QVERIFY(testcompat::waitForWindow(&clock));
+    for (int i = 0; i < 12; ++i)
+        QCOMPARE(paintsAfter(&clock, [&] { clock.roll(); }), 1);
+}
+
+/// The sheet is applied once, after the font.
+void tst_cost::sheetsOfALineEdit()
+{
+    testing::EventCounter changes(qApp, QEvent::StyleChange);
+    CLineEdit field;
+    QCOMPARE(changes.count(), 1);
 }
 
 QTEST_MAIN(tst_cost)
