@@ -1,5 +1,6 @@
 #include "keypad/keypadedit.h"
 
+#include "keypad/keypadtype_p.h"
 #include "widgets/toptitlearea.h"
 
 #include <QKeyEvent>
@@ -10,28 +11,6 @@ namespace
 
 const int titleHeight = 30;
 const int pointSize = 12;
-
-bool isDigit(int key)
-{
-    return key >= Qt::Key_0 && key <= Qt::Key_9;
-}
-
-/// Whether a key of the keyboard with \a code, typing \a text, is allowed in a keypad of \a type.
-bool isKept(CKeyPadFactory::KeyPadType type, int code, const QString& text)
-{
-    switch (type) {
-    case CKeyPadFactory::SKP_BINARY:
-        return code == Qt::Key_0 || code == Qt::Key_1;
-    case CKeyPadFactory::SKP_HEX:
-        return isDigit(code) || (code >= Qt::Key_A && code <= Qt::Key_F);
-    case CKeyPadFactory::SKP_DECIMAL:
-        return isDigit(code);
-    case CKeyPadFactory::SKP_FLOAT:
-        return isDigit(code) || text == QLatin1String(".");
-    default:
-        return true;
-    }
-}
 
 } // namespace
 
@@ -82,6 +61,6 @@ void CKeyPadEdit::setText(const QString& title, const QString& text)
 void CKeyPadEdit::keyPressEvent(QKeyEvent* event)
 {
     QTextEdit::keyPressEvent(event);
-    if (!isKept(m_keyPadType, event->key(), event->text()))
+    if (!keypadtype::row(m_keyPadType).keepsKey(event->text(), event->key()))
         textCursor().deletePreviousChar();
 }

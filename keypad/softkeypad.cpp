@@ -1,9 +1,8 @@
 #include "keypad/softkeypad.h"
 
-#include "keypad/genkeypad.h"
-#include "keypad/hexkeypad.h"
+#include "keypad/abstractkeypad.h"
 #include "keypad/keypadedit.h"
-#include "keypad/numkeypad.h"
+#include "keypad/keypadtype_p.h"
 #include "widgets/painting_p.h"
 
 #include <QHBoxLayout>
@@ -21,40 +20,6 @@ const int topMargin = 5;
 const int sideMargins = 50; // left and right of field and grid together
 const int editHeight = 82;
 const int gapBelowKeys = 2;
-const int typeCount = 5;
-const int decimalBase = 10;
-
-/// The grid of a keypad of \a type. The caller owns it.
-CAbstractKeyPad* newGrid(CKeyPadFactory::KeyPadType type)
-{
-    switch (type) {
-    case CKeyPadFactory::SKP_HEX:
-        return new CHexKeyPad;
-    case CKeyPadFactory::SKP_BINARY:
-        return new CNumKeyPad(CNumKeyPad::BinaryMode);
-    case CKeyPadFactory::SKP_DECIMAL:
-        return new CNumKeyPad(CNumKeyPad::SignedMode);
-    case CKeyPadFactory::SKP_FLOAT:
-        return new CNumKeyPad(CNumKeyPad::UnsignedMode);
-    default:
-        return new CGenKeyPad;
-    }
-}
-
-/// The base of the numbers of a keypad whose range is checked; 0 for the other types.
-int checkedBase(CKeyPadFactory::KeyPadType type)
-{
-    switch (type) {
-    case CKeyPadFactory::SKP_HEX:
-        return 16;
-    case CKeyPadFactory::SKP_BINARY:
-        return 2;
-    case CKeyPadFactory::SKP_DECIMAL:
-        return decimalBase;
-    default:
-        return 0;
-    }
-}
 
 /// \a value in \a base, in lower case and with a minus sign if it is negative, where
 /// QString::number() would write two's complement.
@@ -135,7 +100,7 @@ CKeyPadFactory::KeyPadType CSoftKeyPad::skpType() const
 /// Wanted: the field still filters a keyboard as before, and the grid has its own default size.
 void CSoftKeyPad::setSKPType(CKeyPadFactory::KeyPadType type)
 {
-    if (type < 0 || type >= typeCount || type == m_type)
+    if (!keypadtype::exists(type) || type == m_type)
         return;
     blockSignals(true);
     m_gridRow->removeWidget(m_grid);
@@ -189,12 +154,12 @@ void CSoftKeyPad::clearInput()
 /// the nearer bound stands in the field afterwards; the minimum when the entry is no number at all.
 bool CSoftKeyPad::validate() const
 {
-    const int base = checkedBase(m_type);
+    const int base = keypadtype::row(m_type).checkedBase;
     if (!m_rangeSet || base == 0)
         return true;
     bool converted = false;
     const int value = getInput().toInt(&converted, base);
-    if (base == decimalBase)
+    if (base == keypadtype::decimal)
         converted = true; // wanted: a text that is no decimal number counts as 0
     if (converted && m_minimum <= value && value <= m_maximum)
         return true;
@@ -261,7 +226,7 @@ void CSoftKeyPad::paintEvent(QPaintEvent* event)
 /// Adds the grid of the current type below the field.
 void CSoftKeyPad::addGrid()
 {
-    m_grid = newGrid(m_type);
+    m_grid = keypadtype::row(m_type).newGrid();
     m_gridRow->addWidget(m_grid);
     connect(m_grid, SIGNAL(currentKeyChanged(QString, int)), this, SLOT(changedkey(QString, int)));
 }
@@ -276,27 +241,10 @@ void CSoftKeyPad::keepKeysInside()
     m_grid->setContentsMargins(0, 0, 0, qMax(0, hidden - free));
 }
 
-/// Whether a key of the grid may be inserted into an entry of the current type.
-bool CSoftKeyPad::accepts(const QString& text, int keyCode) const
-{
-    const QChar first = text.at(0);
-    switch (m_type) {
-    case CKeyPadFactory::SKP_HEX:
-        return (keyCode >= Qt::Key_A && keyCode <= Qt::Key_F) ||
-               (keyCode >= Qt::Key_0 && keyCode <= Qt::Key_9);
-    case CKeyPadFactory::SKP_BINARY:
-        return first.isNumber() && (keyCode == Qt::Key_0 || keyCode == Qt::Key_1);
-    case CKeyPadFactory::SKP_DECIMAL:
-    case CKeyPadFactory::SKP_FLOAT:
-        return first.isNumber() || first == QLatin1Char('.');
-    default:
-        return true;
-    }
-}
-
+/// Inserts \a text, if an entry of the current type takes it from the key \a keyCode.
 void CSoftKeyPad::insertKey(const QString& text, int keyCode)
 {
-    if (text.isEmpty() || !accepts(text, keyCode))
+    if (text.isEmpty() || !keypadtype::row(m_type).takesKey(text, keyCode))
         return;
     m_edit->textCursor().insertText(text);
     m_edit->setAlignment(Qt::AlignRight);

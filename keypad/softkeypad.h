@@ -47,7 +47,6 @@ protected:
 private:
     void addGrid();
     void keepKeysInside();
-    bool accepts(const QString& text, int keyCode) const;
     void insertKey(const QString& text, int keyCode);
     void toggleSign();
 
