@@ -3,6 +3,8 @@
 #include "keypad/keygrid_p.h"
 #include "style/widgetstyle.h"
 
+#include <QEvent>
+
 namespace
 {
 

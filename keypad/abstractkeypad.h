@@ -3,6 +3,11 @@
 
 #include "../widgets/widget.h"
 
+namespace keygrid
+{
+class Keys;
+}
+
 /// The base of the grids of keys. A grid tells which key was pressed; what the key does to an entry
 /// is for others to decide.
 class CWIDGET_EXPORT CAbstractKeyPad : public CWidget
@@ -26,6 +31,8 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    friend class keygrid::Keys; // which emits the signal
+
     Q_DISABLE_COPY(CAbstractKeyPad)
 };
 

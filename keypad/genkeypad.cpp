@@ -4,8 +4,6 @@
 #include "keypad/keygrid_p.h"
 #include "style/table_p.h"
 
-#include <QLayout>
-
 namespace
 {
 
@@ -90,74 +88,57 @@ QString cased(const QString& text, bool upper)
     return upper ? text.toUpper() : text.toLower();
 }
 
-} // namespace
-
-/// The grid with all its keys in lower case, "Apply" selected.
-CGenKeyPad::CGenKeyPad(QWidget* parent)
-    : CAbstractKeyPad(parent),
-      m_lastKeyCode(Qt::Key_Space),
-      m_caps(false),
-      m_symbolLayer(false),
-      m_selectedKey(0),
-      m_currentKey(0)
+/// Letters change their case and give way to symbols.
+class GenKeys : public keygrid::Keys
 {
-    CGenKeyPad::initialize();
+public:
+    explicit GenKeys(CAbstractKeyPad* grid);
+
+protected:
+    QString act(CKeyButton* key) override;
+
+private:
+    void toggleCaps();
+    void toggleSymbolLayer();
+
+    int m_lastKeyCode;
+    bool m_caps;
+    bool m_symbolLayer;
+};
+
+GenKeys::GenKeys(CAbstractKeyPad* grid)
+    : keygrid::Keys(grid), m_lastKeyCode(Qt::Key_Space), m_caps(false), m_symbolLayer(false)
+{
 }
 
-CGenKeyPad::~CGenKeyPad()
+/// Lets \a key switch the case or the symbols. After "Shift" its text is reported in the other
+/// case.
+QString GenKeys::act(CKeyButton* key)
 {
-}
-
-/// Builds the keys, once: further calls do nothing. Returns true.
-bool CGenKeyPad::initialize()
-{
-    if (layout())
-        return true;
-    m_selectedKey = keygrid::build(this, plan, &m_keys);
-    return true;
-}
-
-/// Makes the grid take the presses of \a key, which must live as long as the grid. Null is ignored.
-void CGenKeyPad::appendKey(CKeyButton* key)
-{
-    keygrid::watch(this, &m_keys, key);
-}
-
-/// Selects \a key, lets it switch the case or the symbols, and emits currentKeyChanged(). Null
-/// deselects only.
-void CGenKeyPad::keyPress(CKeyButton* key)
-{
-    keygrid::select(&m_selectedKey, &m_currentKey, key);
-    if (!key)
-        return;
-    if (key->key() == Qt::Key_CapsLock && !m_symbolLayer) // wanted: no effect among symbols
+    if (key->key() == Qt::Key_CapsLock && !m_symbolLayer) // Deliberate: no effect among symbols
         toggleCaps();
     if (key->key() == Key_Symbol)
         toggleSymbolLayer();
-    report(key);
+    const bool shifted = m_lastKeyCode == Qt::Key_Shift;
+    m_lastKeyCode = key->key();
+    return shifted ? cased(key->getText(), !m_caps) : key->getText();
 }
 
-/// Hands each press of a key to keyPress(). The key gets the event as well.
-bool CGenKeyPad::eventFilter(QObject* watched, QEvent* event)
-{
-    return keygrid::filterPress(this, watched, event);
-}
-
-void CGenKeyPad::toggleCaps()
+void GenKeys::toggleCaps()
 {
     m_caps = !m_caps;
-    for (int i = 0; i < m_keys.size(); ++i) {
-        CKeyButton* key = m_keys.at(i);
+    for (int i = 0; i < all().size(); ++i) {
+        CKeyButton* key = all().at(i);
         if (isLetter(key))
             key->setText(cased(key->getText(), m_caps));
     }
 }
 
-void CGenKeyPad::toggleSymbolLayer()
+void GenKeys::toggleSymbolLayer()
 {
     m_symbolLayer = !m_symbolLayer;
-    for (int i = 0; i < m_keys.size(); ++i) {
-        CKeyButton* key = m_keys.at(i);
+    for (int i = 0; i < all().size(); ++i) {
+        CKeyButton* key = all().at(i);
         if (!isLetter(key))
             continue;
         key->showSymbol(m_symbolLayer);
@@ -165,11 +146,41 @@ void CGenKeyPad::toggleSymbolLayer()
     }
 }
 
-/// Emits currentKeyChanged() for \a key. After "Shift" its text has the other case.
-void CGenKeyPad::report(CKeyButton* key)
+} // namespace
+
+/// The grid with all its keys in lower case, "Apply" selected.
+CGenKeyPad::CGenKeyPad(QWidget* parent) : CAbstractKeyPad(parent), m_keys(new GenKeys(this))
 {
-    const bool shifted = m_lastKeyCode == Qt::Key_Shift;
-    m_lastKeyCode = key->key();
-    const QString text = key->getText();
-    Q_EMIT currentKeyChanged(shifted ? cased(text, !m_caps) : text, key->key());
+    CGenKeyPad::initialize();
+}
+
+CGenKeyPad::~CGenKeyPad()
+{
+    delete m_keys;
+}
+
+/// Builds the keys, once: further calls do nothing. Returns true.
+bool CGenKeyPad::initialize()
+{
+    m_keys->build(plan);
+    return true;
+}
+
+/// Makes the grid take the presses of \a key, which must live as long as the grid. Null is ignored.
+void CGenKeyPad::appendKey(CKeyButton* key)
+{
+    m_keys->append(key);
+}
+
+/// Selects \a key, lets it switch the case or the symbols, and emits currentKeyChanged(). Null
+/// deselects only.
+void CGenKeyPad::keyPress(CKeyButton* key)
+{
+    m_keys->press(key);
+}
+
+/// Hands each press of a key to keyPress(). The key gets the event as well.
+bool CGenKeyPad::eventFilter(QObject* watched, QEvent* event)
+{
+    return m_keys->filter(watched, event);
 }

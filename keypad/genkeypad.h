@@ -3,8 +3,6 @@
 
 #include "abstractkeypad.h"
 
-#include <QList>
-
 class CKeyButton;
 
 /// The grid for texts: digits, letters in lower and upper case, symbols, and keys to edit and
@@ -25,16 +23,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void toggleCaps();
-    void toggleSymbolLayer();
-    void report(CKeyButton* key);
-
-    int m_lastKeyCode;
-    bool m_caps;
-    bool m_symbolLayer;
-    CKeyButton* m_selectedKey;
-    CKeyButton* m_currentKey;
-    QList<CKeyButton*> m_keys;
+    keygrid::Keys* m_keys;
 
     Q_DISABLE_COPY(CGenKeyPad)
 };

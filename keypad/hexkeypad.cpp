@@ -1,10 +1,8 @@
 #include "keypad/hexkeypad.h"
 
-#include "keypad/keybutton.h"
+#include "keypad/keycodes.h"
 #include "keypad/keygrid_p.h"
 #include "style/table_p.h"
-
-#include <QLayout>
 
 namespace
 {
@@ -63,40 +61,37 @@ const keygrid::Plan plan = {
 } // namespace
 
 /// The grid with all its keys, "Apply" selected.
-CHexKeyPad::CHexKeyPad(QWidget* parent) : CAbstractKeyPad(parent), m_selectedKey(0), m_currentKey(0)
+CHexKeyPad::CHexKeyPad(QWidget* parent) : CAbstractKeyPad(parent), m_keys(new keygrid::Keys(this))
 {
     CHexKeyPad::initialize();
 }
 
 CHexKeyPad::~CHexKeyPad()
 {
+    delete m_keys;
 }
 
 /// Builds the keys, once: further calls do nothing. Returns true.
 bool CHexKeyPad::initialize()
 {
-    if (layout())
-        return true;
-    m_selectedKey = keygrid::build(this, plan, &m_keys);
+    m_keys->build(plan);
     return true;
 }
 
 /// Makes the grid take the presses of \a key, which must live as long as the grid. Null is ignored.
 void CHexKeyPad::appendKey(CKeyButton* key)
 {
-    keygrid::watch(this, &m_keys, key);
+    m_keys->append(key);
 }
 
 /// Selects \a key and emits currentKeyChanged(), also when it is disabled. Null deselects only.
 void CHexKeyPad::keyPress(CKeyButton* key)
 {
-    keygrid::select(&m_selectedKey, &m_currentKey, key);
-    if (key)
-        Q_EMIT currentKeyChanged(key->getText(), key->key());
+    m_keys->press(key);
 }
 
 /// Hands each press of a key to keyPress(). The key gets the event as well.
 bool CHexKeyPad::eventFilter(QObject* watched, QEvent* event)
 {
-    return keygrid::filterPress(this, watched, event);
+    return m_keys->filter(watched, event);
 }

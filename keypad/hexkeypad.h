@@ -3,8 +3,6 @@
 
 #include "abstractkeypad.h"
 
-#include <QList>
-
 class CKeyButton;
 
 /// The grid for hexadecimal numbers: A to F, the digits, and keys to edit and accept.
@@ -24,9 +22,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    CKeyButton* m_selectedKey;
-    CKeyButton* m_currentKey;
-    QList<CKeyButton*> m_keys;
+    keygrid::Keys* m_keys;
 
     Q_DISABLE_COPY(CHexKeyPad)
 };

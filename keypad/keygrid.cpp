@@ -1,11 +1,14 @@
 #include "keypad/keygrid_p.h"
 
+#include "keypad/abstractkeypad.h"
 #include "keypad/keybutton.h"
 #include "style/keptpictures_p.h"
 #include "style/table_p.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QHBoxLayout>
+#include <QPointer>
 #include <QVBoxLayout>
 
 namespace keygrid
@@ -81,49 +84,140 @@ void setUpKey(CKeyButton* key, const Key& row)
     setLook(key, row.pictures);
 }
 
-QHBoxLayout* addRow(QVBoxLayout* column, const Row& row)
+CKeyButton* newKey(const Key& row, QWidget* grid)
 {
-    QHBoxLayout* layout = new QHBoxLayout;
-    if (row.spacing != inheritedSpacing)
-        layout->setSpacing(row.spacing);
-    if (row.centered)
-        layout->setAlignment(Qt::AlignCenter);
-    column->addLayout(layout);
-    return layout;
+    CKeyButton* const key = new CKeyButton(grid);
+    key->setFixedSize(row.width, row.height);
+    if (row.code == Qt::Key_unknown)
+        setUpBlankKey(key);
+    else
+        setUpKey(key, row);
+    return key;
 }
 
 } // namespace
 
-/// Lays out the keys of \a plan on \a grid, whose children they become in the order of the table,
-/// and has the grid watch all but the blank ones, which it adds to \a keys. Selects the key that
-/// accepts the entry, as a new grid shows it, and returns it.
-CKeyButton* build(QWidget* grid, const Plan& plan, QList<CKeyButton*>* keys)
+/// No keys yet. \a grid owns the object.
+Keys::Keys(CAbstractKeyPad* grid) : m_grid(grid), m_selected(0)
 {
-    QVBoxLayout* column = new QVBoxLayout(grid);
+}
+
+Keys::~Keys()
+{
+}
+
+/// Lays out the keys of \a plan on the grid, whose children they become in the order of the table,
+/// and watches all but the blank ones. Selects the key that accepts the entry, as a new grid shows
+/// it. Does nothing on a grid that has its keys.
+void Keys::build(const Plan& plan)
+{
+    if (m_grid->layout())
+        return;
+    QVBoxLayout* const column = new QVBoxLayout(m_grid);
     column->setContentsMargins(plan.leftMargin, plan.topMargin, plan.rightMargin,
                                plan.bottomMargin);
     if (plan.spacing != inheritedSpacing)
         column->setSpacing(plan.spacing);
     const Key* next = plan.keys;
     for (int i = 0; i < plan.rowCount; ++i) {
-        QHBoxLayout* row = addRow(column, plan.rows[i]);
-        row->addStretch();
-        for (int j = 0; j < plan.rows[i].keyCount; ++j, ++next) {
-            CKeyButton* key = new CKeyButton(grid);
-            key->setFixedSize(next->width, next->height);
-            if (next->code == Qt::Key_unknown) {
-                setUpBlankKey(key);
-            } else {
-                setUpKey(key, *next);
-                watch(grid, keys, key);
-            }
-            row->addWidget(key);
-        }
-        row->addStretch();
+        addRow(column, next, plan.rows[i]);
+        next += plan.rows[i].keyCount;
     }
-    CKeyButton* apply = keyOf(*keys, Key_Apply);
-    apply->setSelected(true);
-    return apply;
+    m_selected = withCode(Key_Apply);
+    m_selected->setSelected(true);
+}
+
+/// Adds \a row, of the next of \a keys, to \a column.
+void Keys::addRow(QVBoxLayout* column, const Key* keys, const Row& row)
+{
+    QHBoxLayout* const layout = new QHBoxLayout;
+    if (row.spacing != inheritedSpacing)
+        layout->setSpacing(row.spacing);
+    if (row.centered)
+        layout->setAlignment(Qt::AlignCenter);
+    column->addLayout(layout);
+    layout->addStretch();
+    for (int i = 0; i < row.keyCount; ++i) {
+        CKeyButton* const key = newKey(keys[i], m_grid);
+        if (keys[i].code != Qt::Key_unknown)
+            append(key);
+        layout->addWidget(key);
+    }
+    layout->addStretch();
+}
+
+/// Watches \a key, unless it is null.
+void Keys::append(CKeyButton* key)
+{
+    if (!key)
+        return;
+    m_keys.append(key);
+    key->installEventFilter(m_grid);
+}
+
+/// The keys that are watched, in the order in which they were added.
+const QList<CKeyButton*>& Keys::all() const
+{
+    return m_keys;
+}
+
+/// The first key with that \a code; null when there is none.
+CKeyButton* Keys::withCode(int code) const
+{
+    for (int i = 0; i < m_keys.size(); ++i) {
+        if (m_keys.at(i)->key() == code)
+            return m_keys.at(i);
+    }
+    return 0;
+}
+
+/// The event filter of the grid. The press goes on to the key, unless a slot has deleted that. A
+/// double click, as which Qt delivers the second of two quick touches, is none: the key makes a
+/// press of it.
+bool Keys::filter(QObject* watched, QEvent* event)
+{
+    const QPointer<QObject> receiver(watched); // a slot may delete the grid and this object, too
+    if (event->type() == QEvent::MouseButtonPress)
+        press(qobject_cast<CKeyButton*>(watched));
+    return !receiver;
+}
+
+/// Selects \a key, lets it act on the grid, and reports it. Null deselects only.
+void Keys::press(CKeyButton* key)
+{
+    if (key && !accepts(key))
+        return;
+    select(key);
+    if (!key)
+        return;
+    const QString text = act(key);
+    Q_EMIT m_grid->currentKeyChanged(text, key->key());
+}
+
+/// Whether a press of \a key counts; each does, also of a disabled key.
+bool Keys::accepts(const CKeyButton* key) const
+{
+    Q_UNUSED(key);
+    return true;
+}
+
+/// What the pressed \a key does to the grid, here nothing. Returns the text to report: what the
+/// key shows.
+QString Keys::act(CKeyButton* key)
+{
+    return key->getText();
+}
+
+/// Moves the selection to \a key. Deliberate: null only takes it away from the selected key, which
+/// stays recorded.
+void Keys::select(CKeyButton* key)
+{
+    if (m_selected)
+        m_selected->setSelected(false);
+    if (!key)
+        return;
+    key->setSelected(true);
+    m_selected = key;
 }
 
 /// Captions the keys of \a grid anew after a change of the language. Keys that the grid did not
@@ -152,38 +246,6 @@ void setLook(CKeyButton* key, CWidgetStyle::KeyStatus pressed)
     key->setExtraAttr(CPushButton::PressedTextColor, white);
     key->setExtraAttr(CPushButton::ReleasedTextColor, white);
     key->setExtraAttr(CPushButton::SelectedTextColor, QColor(Qt::black));
-}
-
-/// Adds \a key, unless it is null, to \a keys, those whose presses \a grid is told of.
-void watch(QObject* grid, QList<CKeyButton*>* keys, CKeyButton* key)
-{
-    if (!key)
-        return;
-    keys->append(key);
-    key->installEventFilter(grid);
-}
-
-/// The first of \a keys with that \a code; null when there is none.
-CKeyButton* keyOf(const QList<CKeyButton*>& keys, int code)
-{
-    for (int i = 0; i < keys.size(); ++i) {
-        if (keys.at(i)->key() == code)
-            return keys.at(i);
-    }
-    return 0;
-}
-
-/// Moves the selection of a grid to \a key. Null only takes it away from the \a selected key, which
-/// stays recorded, wanted so.
-void select(CKeyButton** selected, CKeyButton** current, CKeyButton* key)
-{
-    if (*selected)
-        (*selected)->setSelected(false);
-    *current = key;
-    if (!key)
-        return;
-    key->setSelected(true);
-    *selected = key;
 }
 
 } // namespace keygrid

@@ -3,11 +3,12 @@
 
 #include "style/widgetstyle.h"
 
-#include <QEvent>
 #include <QList>
-#include <QPointer>
 
+class CAbstractKeyPad;
 class CKeyButton;
+class QEvent;
+class QVBoxLayout;
 
 // What the grids of keys have in common: how they are built from tables, and how a press is taken.
 namespace keygrid
@@ -51,26 +52,39 @@ constexpr int keysIn(const Row* rows, int rowCount)
     return rowCount == 0 ? 0 : rows->keyCount + keysIn(rows + 1, rowCount - 1);
 }
 
-CKeyButton* build(QWidget* grid, const Plan& plan, QList<CKeyButton*>* keys);
+/// The keys that a grid watches, of which one is selected. A touch comes in by the event filter of
+/// the grid, a call by its keyPress(); both go to press(), which tells what is reported.
+class Keys
+{
+public:
+    explicit Keys(CAbstractKeyPad* grid);
+    virtual ~Keys();
+
+    void build(const Plan& plan);
+    void append(CKeyButton* key);
+    const QList<CKeyButton*>& all() const;
+    CKeyButton* withCode(int code) const;
+
+    bool filter(QObject* watched, QEvent* event);
+    void press(CKeyButton* key);
+
+protected:
+    virtual bool accepts(const CKeyButton* key) const;
+    virtual QString act(CKeyButton* key);
+
+private:
+    void addRow(QVBoxLayout* column, const Key* keys, const Row& row);
+    void select(CKeyButton* key);
+
+    CAbstractKeyPad* m_grid;
+    CKeyButton* m_selected;
+    QList<CKeyButton*> m_keys;
+
+    Q_DISABLE_COPY(Keys)
+};
+
 void translate(QWidget* grid);
 void setLook(CKeyButton* key, CWidgetStyle::KeyStatus pressed);
-
-void watch(QObject* grid, QList<CKeyButton*>* keys, CKeyButton* key);
-CKeyButton* keyOf(const QList<CKeyButton*>& keys, int code);
-void select(CKeyButton** selected, CKeyButton** current, CKeyButton* key);
-
-/// The event filter of \a grid: hands a pressed key to its keyPress(). The press goes on to the
-/// key, unless a slot has deleted that. A double click, as which Qt delivers the second of two
-/// quick touches, is none: the key makes a press of it.
-template <typename Grid>
-bool filterPress(Grid* grid, QObject* watched, QEvent* event)
-{
-    const QPointer<Grid> self(grid);
-    const QPointer<QObject> receiver(watched);
-    if (event->type() == QEvent::MouseButtonPress)
-        grid->keyPress(qobject_cast<CKeyButton*>(watched));
-    return !receiver || (self && self->QObject::eventFilter(watched, event));
-}
 
 } // namespace keygrid
 

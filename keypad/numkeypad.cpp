@@ -4,8 +4,6 @@
 #include "keypad/keygrid_p.h"
 #include "style/table_p.h"
 
-#include <QLayout>
-
 namespace
 {
 
@@ -54,11 +52,24 @@ const keygrid::Plan plan = {
     keys, rows, table::count(rows), 0, 20, 0, 100, keygrid::inheritedSpacing,
 };
 
+/// A disabled key does nothing.
+class NumKeys : public keygrid::Keys
+{
+public:
+    using keygrid::Keys::Keys;
+
+protected:
+    bool accepts(const CKeyButton* key) const override
+    {
+        return key->isEnabled();
+    }
+};
+
 } // namespace
 
 /// The grid with all its keys, "Apply" selected, put into \a mode.
 CNumKeyPad::CNumKeyPad(Mode mode, QWidget* parent)
-    : CAbstractKeyPad(parent), m_mode(SignedMode), m_signKey(0), m_selectedKey(0), m_currentKey(0)
+    : CAbstractKeyPad(parent), m_mode(SignedMode), m_signKey(0), m_keys(new NumKeys(this))
 {
     CNumKeyPad::initialize();
     setMode(mode);
@@ -71,15 +82,14 @@ CNumKeyPad::CNumKeyPad(QWidget* parent) : CNumKeyPad(SignedMode, parent)
 
 CNumKeyPad::~CNumKeyPad()
 {
+    delete m_keys;
 }
 
 /// Builds the keys, once: further calls do nothing. Returns true.
 bool CNumKeyPad::initialize()
 {
-    if (layout())
-        return true;
-    m_selectedKey = keygrid::build(this, plan, &m_keys);
-    m_signKey = keygrid::keyOf(m_keys, Key_PlusMinus);
+    m_keys->build(plan);
+    m_signKey = m_keys->withCode(Key_PlusMinus);
     return true;
 }
 
@@ -101,30 +111,27 @@ void CNumKeyPad::setMode(Mode mode)
 /// Makes the grid take the presses of \a key, which must live as long as the grid. Null is ignored.
 void CNumKeyPad::appendKey(CKeyButton* key)
 {
-    keygrid::watch(this, &m_keys, key);
+    m_keys->append(key);
 }
 
 /// Selects \a key and emits currentKeyChanged(), unless it is disabled. Null deselects only.
 void CNumKeyPad::keyPress(CKeyButton* key)
 {
-    if (key && !key->isEnabled())
-        return;
-    keygrid::select(&m_selectedKey, &m_currentKey, key);
-    if (key)
-        Q_EMIT currentKeyChanged(key->getText(), key->key());
+    m_keys->press(key);
 }
 
 /// Hands each press of a key to keyPress(). The key gets the event as well.
 bool CNumKeyPad::eventFilter(QObject* watched, QEvent* event)
 {
-    return keygrid::filterPress(this, watched, event);
+    return m_keys->filter(watched, event);
 }
 
 /// The digits that a binary number does not have.
 void CNumKeyPad::setUpperDigitsEnabled(bool enabled)
 {
-    for (int i = 0; i < m_keys.size(); ++i) {
-        CKeyButton* key = m_keys.at(i);
+    const QList<CKeyButton*>& all = m_keys->all();
+    for (int i = 0; i < all.size(); ++i) {
+        CKeyButton* key = all.at(i);
         if (key->key() < Qt::Key_2 || key->key() > Qt::Key_9)
             continue;
         key->setTextColor(enabled ? Qt::white : Qt::gray);

@@ -3,8 +3,6 @@
 
 #include "abstractkeypad.h"
 
-#include <QList>
-
 class CKeyButton;
 
 /// The grid for decimal and binary numbers: the digits, a sign, a point, and keys to edit and
@@ -40,9 +38,7 @@ private:
 
     Mode m_mode;
     CKeyButton* m_signKey;
-    CKeyButton* m_selectedKey;
-    CKeyButton* m_currentKey;
-    QList<CKeyButton*> m_keys;
+    keygrid::Keys* m_keys;
 
     Q_DISABLE_COPY(CNumKeyPad)
 };
