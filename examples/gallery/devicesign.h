@@ -13,7 +13,6 @@ class DeviceSign : public CWidget
 public:
     DeviceSign(CWidgetStyle::DeviceType type, QWidget* parent);
 
-public Q_SLOTS:
     void refresh();
 
 protected:

@@ -6,7 +6,6 @@
 #include <CWidgetStyle>
 #include <QDeviceWatcher>
 #include <QTime>
-#include <QTimer>
 
 namespace
 {
@@ -15,7 +14,6 @@ const int left = layout::margin;
 const int rowPitch = 40;
 const int linePitch = 32;
 const int lineCount = 8;
-const int refreshInterval = 500; // ms
 
 const struct {
     CWidgetStyle::DeviceType type;
@@ -34,9 +32,6 @@ DevicesScreen::DevicesScreen(Panel* panel) : Screen(QLatin1String("Devices"), pa
     addRegistry(52);
     addHeading(QLatin1String("Last notifications of the kernel"), 188);
     addNotifications(224);
-    QTimer* timer = new QTimer(this);
-    connect(timer, SIGNAL(timeout()), this, SLOT(refresh()));
-    timer->start(refreshInterval);
     refresh();
 }
 
@@ -61,6 +56,7 @@ void DevicesScreen::refresh()
             attached ? CWidgetStyle::LedState1 : CWidgetStyle::LedState0, CWidgetStyle::LargeIcon));
         m_states.at(i)->setText(QLatin1String(attached ? "attached" : "not attached"));
     }
+    Q_EMIT refreshed();
 }
 
 void DevicesScreen::noteAdded(const QString& device)

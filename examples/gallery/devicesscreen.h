@@ -22,8 +22,11 @@ public Q_SLOTS:
     /// Starts to watch; the inventory that this begins with may take up to three seconds.
     void watch();
 
+Q_SIGNALS:
+    /// Something was plugged or pulled; the registry knows it already.
+    void refreshed();
+
 private Q_SLOTS:
-    void refresh();
     void noteAdded(const QString& device);
     void noteRemoved(const QString& device);
     void noteChanged(const QString& device);
@@ -31,6 +34,7 @@ private Q_SLOTS:
 private:
     void addRegistry(int y);
     void addNotifications(int y);
+    void refresh();
     void note(const QString& action, const QString& device);
 
     CHotplugWatcher* m_watcher;

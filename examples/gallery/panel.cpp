@@ -81,6 +81,8 @@ Panel::Panel(const QString& styleFile)
         m_screens.append(entries[i].make(this));
         m_screens.last()->move(column, m_strip->height());
     }
+    connect(screen(QLatin1String("devices")), SIGNAL(refreshed()), m_strip, SLOT(refreshDevices()));
+    QApplication::setCursorFlashTime(0); // a cursor that blinks wakes the processor
 }
 
 QStringList Panel::screenNames()

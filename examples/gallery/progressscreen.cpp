@@ -90,12 +90,27 @@ void ProgressScreen::addClocks(int y)
         clock->setValue(clocks[i].value);
         clock->setFormat(clocks[i].format);
         clock->move(20, 17);
-        clock->start();
         m_clocks.append(clock);
         CLabel* caption = plainLabel(QLatin1String(clocks[i].caption), plate);
         caption->setTextColor(Qt::white);
         caption->setGeometry(66, 18, 130, 28);
     }
+}
+
+/// The clocks turn while they are seen: a clock that was started wakes the processor, hidden or
+/// not.
+void ProgressScreen::showEvent(QShowEvent* event)
+{
+    Screen::showEvent(event);
+    for (int i = 0; i < m_clocks.size(); ++i)
+        m_clocks.at(i)->start();
+}
+
+void ProgressScreen::hideEvent(QHideEvent* event)
+{
+    Screen::hideEvent(event);
+    for (int i = 0; i < m_clocks.size(); ++i)
+        m_clocks.at(i)->stop();
 }
 
 /// The clocks stand still in a picture.

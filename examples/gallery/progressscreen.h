@@ -20,6 +20,10 @@ public:
 
     void prepareShot() override;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
 private Q_SLOTS:
     void step();
     void startOrStop();

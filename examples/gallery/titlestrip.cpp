@@ -14,13 +14,19 @@ const int textLeft = 18;
 const int gap = 12;
 const int rightMargin = layout::margin;
 const int timeWidth = 58;
-const int tickInterval = 500;
 
 const CWidgetStyle::DeviceType devices[] = {
     CWidgetStyle::DeviceStorage,
     CWidgetStyle::DeviceMouse,
     CWidgetStyle::DeviceKeyboard,
 };
+
+/// From now to the first moment of the next minute, in ms.
+int restOfMinute()
+{
+    const QTime now = QTime::currentTime();
+    return 60 * 1000 - now.second() * 1000 - now.msec();
+}
 
 } // namespace
 
@@ -51,9 +57,9 @@ TitleStrip::TitleStrip(QWidget* parent) : CTopTitleArea(parent)
     addSign(CWidgetStyle::getLockStatus(CWidgetStyle::Locked), &right);
     addDeviceSigns(&right);
 
-    QTimer* timer = new QTimer(this);
-    connect(timer, SIGNAL(timeout()), this, SLOT(showTime()));
-    timer->start(tickInterval);
+    m_minute = new QTimer(this);
+    m_minute->setSingleShot(true);
+    connect(m_minute, SIGNAL(timeout()), this, SLOT(showTime()));
     showTime();
 }
 
@@ -69,11 +75,19 @@ void TitleStrip::freezeTime(const QString& time)
     showTime();
 }
 
+/// The time changes by the minute, so the strip sleeps until the next one.
 void TitleStrip::showTime()
 {
     m_time->setText(m_frozenTime.isEmpty() ? QTime::currentTime().toString(QLatin1String("HH:mm"))
                                            : m_frozenTime);
-    Q_EMIT tick();
+    m_minute->start(restOfMinute());
+}
+
+/// Looks again at what is attached.
+void TitleStrip::refreshDevices()
+{
+    for (int i = 0; i < m_signs.size(); ++i)
+        m_signs.at(i)->refresh();
 }
 
 void TitleStrip::addSign(const QPixmap& pixmap, int* right)
@@ -93,6 +107,6 @@ void TitleStrip::addDeviceSigns(int* right)
         *right -= sign->width();
         sign->move(*right, (height() - sign->height()) / 2);
         *right -= gap;
-        connect(this, SIGNAL(tick()), sign, SLOT(refresh()));
+        m_signs.append(sign);
     }
 }

@@ -2,8 +2,11 @@
 #define GALLERY_TITLESTRIP_H
 
 #include <CTopTitleArea>
+#include <QList>
 
 class CLabel;
+class DeviceSign;
+class QTimer;
 
 /// The strip along the panel's top: its name, the title of the screen, the signs of what is
 /// attached, wireless and lock, and the time.
@@ -17,9 +20,8 @@ public:
     void setScreenTitle(const QString& title);
     void freezeTime(const QString& time);
 
-Q_SIGNALS:
-    /// Time to look again at what is attached.
-    void tick();
+public Q_SLOTS:
+    void refreshDevices();
 
 private Q_SLOTS:
     void showTime();
@@ -30,6 +32,8 @@ private:
 
     CLabel* m_screenTitle;
     CLabel* m_time;
+    QTimer* m_minute;
+    QList<DeviceSign*> m_signs;
     QString m_frozenTime;
 };
 

@@ -17,6 +17,7 @@ const QRect fieldRect(120 + 140, 44 + 92, 192, 28);
 const QRect rangedRect(120 + 356, 44 + 92, 176, 28);
 const QRect keyboardOnlyRect(120 + 140, 44 + 332 + 80, 192, 28);
 const int rowPitch = 40;
+const int cursorSpace = 4;
 const QColor selectedApply(0x5F, 0xD0, 0x8D);
 
 QString latin(const char* text)
@@ -124,9 +125,12 @@ QString tst_gallery_entry::fieldDiffers(const GalleryWindow& window, const QRect
     QPainter painter(&expected);
     painter.drawImage(field.topLeft(), testing::render(&edit));
     painter.end();
-    // Where the text stands; the cursor may blink behind it.
-    const QRect textRect(field.left() + 1, field.top() + 1, 30, field.height() - 2);
-    return window.waitFor(expected, textRect);
+    // Where the text stands, and behind the cursor at its end.
+    const int width = testcompat::textWidth(edit.fontMetrics(), text);
+    const QRect textRect(field.left() + 1, field.top() + 1, width, field.height() - 2);
+    const QRect emptyRect = textRect.translated(width + cursorSpace, 0);
+    const QString difference = window.waitFor(expected, textRect);
+    return difference.isEmpty() ? window.waitFor(expected, emptyRect) : difference;
 }
 
 void tst_gallery_entry::typesOnEveryKeypad_data()
