@@ -139,8 +139,6 @@ class Appliance : public CWidget
 public:
     explicit Appliance(const QString& settingsFile);
 
-    Title* title() const;
-
 private Q_SLOTS:
     void keepText(const QString& text);
     void keepChoice(int index);
@@ -212,11 +210,6 @@ Appliance::Appliance(const QString& settingsFile)
     openService(m_service->checkState());
     m_report->setText(m_settings.isWritable() ? latin("Ready")
                                               : latin("Ready, but settings cannot be kept"));
-}
-
-Title* Appliance::title() const
-{
-    return m_title;
 }
 
 QString Appliance::value(const char* key) const
@@ -383,6 +376,7 @@ int main(int argc, char** argv)
 {
     NetlinkAddress address; // before Qt listens for input devices
     QApplication application(argc, argv);
+    QApplication::setCursorFlashTime(0); // the panel sleeps while nobody touches it
     const QStringList arguments = QApplication::arguments();
     const QString style = arguments.value(2, shippedStyleFile());
     if (!CWidgetStyle::initialize(style)) // before any widget is made
@@ -392,8 +386,9 @@ int main(int argc, char** argv)
     Appliance appliance(arguments.value(1, latin("appliance.ini")));
     // The registry is up to date when its source tells others.
     QDeviceWatcher* const source = hotplug.findChild<QDeviceWatcher*>();
-    QObject::connect(source, SIGNAL(deviceAdded(QString)), appliance.title(), SLOT(refresh()));
-    QObject::connect(source, SIGNAL(deviceRemoved(QString)), appliance.title(), SLOT(refresh()));
+    Title* const title = appliance.findChild<Title*>();
+    QObject::connect(source, SIGNAL(deviceAdded(QString)), title, SLOT(refresh()));
+    QObject::connect(source, SIGNAL(deviceRemoved(QString)), title, SLOT(refresh()));
     appliance.show();
     return QApplication::exec();
 }
