@@ -5,6 +5,7 @@
 #include "style/qtcompat.h"
 #include "style/stylewalk_p.h"
 #include "style/widgetstyle.h"
+#include "widgets/metrics_p.h"
 #include "widgets/painting_p.h"
 
 #include <QApplication>
@@ -14,7 +15,6 @@
 namespace
 {
 
-const int boxHeight = 28;
 const int maskBits = 64;
 
 // The semicolon at the end is part of it.
@@ -44,7 +44,7 @@ CComboBox::CComboBox(QWidget* parent)
       m_row(new ComboBoxRow(this))
 {
     m_pageList->hide();
-    setFixedHeight(boxHeight);
+    setFixedHeight(metrics::controlHeight);
     // The font comes first, as a sheet would have to go away for it.
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), 0));
     setStyleSheet(QLatin1String(boxStyleSheet));

@@ -1,6 +1,7 @@
 #include "pages/pagebar.h"
 
 #include "style/keptpictures_p.h"
+#include "widgets/metrics_p.h"
 #include "widgets/pushbutton.h"
 
 #include <QEvent>
@@ -12,7 +13,6 @@ namespace
 {
 
 const int horizontalWidth = 150;
-const int horizontalHeight = 30;
 const int verticalWidth = 24;
 const int arrowSpacing = 100; // leaves room for the text between the arrows
 const int textSize = 14;
@@ -81,7 +81,7 @@ void CPageBar::buildHorizontal()
     layout->setSpacing(arrowSpacing);
     layout->addWidget(m_leftButton);
     layout->addWidget(m_rightButton);
-    setSize(horizontalWidth, horizontalHeight);
+    setSize(horizontalWidth, metrics::pageBarHeight);
 }
 
 /// The arrow up steps forward and the arrow down back, wanted so.

@@ -4,6 +4,7 @@
 #include "pages/pagelistwidgetheader.h"
 #include "pages/pagelistwidgetitemarea.h"
 #include "style/widgetstyle.h"
+#include "widgets/metrics_p.h"
 
 #include <QVBoxLayout>
 
@@ -12,9 +13,7 @@ namespace
 
 const int defaultWidth = 220;
 const int defaultHeight = 238;
-const int defaultMaxVisibleRows = 5;
 const int headerHeight = 60;
-const int pageBarHeight = 30;
 
 } // namespace
 
@@ -24,7 +23,7 @@ CPageListWidget::CPageListWidget(QWidget* parent)
     : CWidget(parent),
       m_width(0),
       m_height(0),
-      m_maxVisibleRows(defaultMaxVisibleRows),
+      m_maxVisibleRows(metrics::rowsOfPage),
       m_header(new CPageListWidgetHeader(this)),
       m_itemArea(new CPageListWidgetItemArea(this)),
       m_pageBar(new CPageBar(this, CWidgetStyle::HorizontalPageBar))
@@ -212,8 +211,8 @@ void CPageListWidget::setSize(int width, int height)
     m_height = height;
     CWidget::setSize(width, height);
     m_header->setSize(width, headerHeight);
-    m_pageBar->setSize(width, pageBarHeight);
-    m_itemArea->setSize(width, qMax(0, height - headerHeight - pageBarHeight));
+    m_pageBar->setSize(width, metrics::pageBarHeight);
+    m_itemArea->setSize(width, qMax(0, height - headerHeight - metrics::pageBarHeight));
     adjustHeight();
 }
 

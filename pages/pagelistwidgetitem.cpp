@@ -1,13 +1,13 @@
 #include "pages/pagelistwidgetitem.h"
 
 #include "style/widgetstyle.h"
+#include "widgets/metrics_p.h"
 
 #include <QPainter>
 
 namespace
 {
 
-const int rowHeight = 28;
 const int iconSize = 20;
 const qreal iconLeft = -1.0; // flush against the border of the area
 const int rightMargin = 20;
@@ -56,7 +56,7 @@ CPageListWidgetItem::~CPageListWidgetItem()
 /// file's entry "CComboBox". Returns true.
 bool CPageListWidgetItem::initialize()
 {
-    setHeight(rowHeight);
+    setHeight(metrics::controlHeight);
     setAttribute(Qt::WA_MouseTracking);
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), 0));
     return true;

@@ -4,6 +4,7 @@
 #include "pages/pagelistwidgetitem.h"
 #include "style/qtcompat.h"
 #include "style/widgetstyle.h"
+#include "widgets/metrics_p.h"
 
 #include <QCoreApplication>
 #include <QMouseEvent>
@@ -13,8 +14,6 @@
 namespace
 {
 
-const int defaultMaxVisibleRows = 5;
-const int rowHeight = 28;
 const int rowMargins = 4; // left and right of a row together
 
 } // namespace
@@ -25,7 +24,7 @@ CPageListWidgetItemArea::CPageListWidgetItemArea(QWidget* parent)
     : CWidget(parent),
       m_currentPage(0),
       m_currentIndex(0),
-      m_maxVisibleRows(defaultMaxVisibleRows),
+      m_maxVisibleRows(metrics::rowsOfPage),
       m_layout(new PageLayout(this)),
       m_pressedItem(0),
       m_releasedItem(0),
@@ -38,7 +37,7 @@ CPageListWidgetItemArea::CPageListWidgetItemArea(QWidget* parent)
     setBorderWidth(1);
     setMouseTracking(true);
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), 0));
-    setMaxVisibleRows(defaultMaxVisibleRows);
+    setMaxVisibleRows(metrics::rowsOfPage);
 }
 
 CPageListWidgetItemArea::~CPageListWidgetItemArea()
@@ -238,7 +237,7 @@ void CPageListWidgetItemArea::setSize(int width, int height)
 
 QSize CPageListWidgetItemArea::rowSize() const
 {
-    return QSize(qMax(0, width() - rowMargins), rowHeight);
+    return QSize(qMax(0, width() - rowMargins), metrics::controlHeight);
 }
 
 /// Remembers the row that was touched.

@@ -3,6 +3,7 @@
 #include "pages/pagebar.h"
 #include "style/widgetstyle.h"
 #include "widgets/graphicsview.h"
+#include "widgets/metrics_p.h"
 
 #include <QHash>
 #include <QSet>
@@ -15,7 +16,6 @@ namespace
 {
 
 const char pageNumberProperty[] = "PageIndex";
-const int pageBarHeight = 30;
 const unsigned int pageChangeSize = 1024; // what pages are told when another one is shown
 
 int numberOf(const QWidget* page)
@@ -196,8 +196,8 @@ void CPageWidget::setCurrentPage(int index)
 void CPageWidget::setSize(int width, int height)
 {
     CWidget::setSize(width, height);
-    m_stack->setFixedSize(width, qMax(0, height - pageBarHeight));
-    m_pageBar->setSize(width, pageBarHeight);
+    m_stack->setFixedSize(width, qMax(0, height - metrics::pageBarHeight));
+    m_pageBar->setSize(width, metrics::pageBarHeight);
 }
 
 /// Sets the colour of the ground, of the page bar's too, and repaints.

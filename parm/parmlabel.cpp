@@ -2,6 +2,7 @@
 
 #include "parm/parmpattern_p.h"
 #include "style/widgetstyle.h"
+#include "widgets/metrics_p.h"
 
 #include <QHBoxLayout>
 
@@ -14,7 +15,7 @@ CParmLabel::CParmLabel(const QString& name, const QString& value, QWidget* paren
     m_nameLabel = parmpattern::addNameLabel(layout, name, 1);
     m_valueLabel = new CLabel(this);
     m_valueLabel->setBorderWidth(1);
-    m_valueLabel->setBorderColor(QColor(212, 212, 212));
+    m_valueLabel->setBorderColor(QColor(metrics::thinFrameColor));
     m_valueLabel->setText(value);
     m_valueLabel->setBackgroundColor(Qt::white);
     m_valueLabel->setTextColor(Qt::blue);

@@ -4,6 +4,7 @@
 #include "style/stylewalk_p.h"
 #include "style/table_p.h"
 #include "style/widgetstyle.h"
+#include "widgets/metrics_p.h"
 
 #include <QPainter>
 #include <QPointer>
@@ -12,7 +13,6 @@ namespace
 {
 
 const int bareSize = 20;
-const int captionedHeight = 28;
 const int captionPointSize = 9;
 const int captionMargin = 10; // between box and caption
 const int borderExtent = 40;  // of the frame, beyond the caption's width
@@ -43,7 +43,7 @@ CCheckBox::CCheckBox(const QString& text, QWidget* parent)
       m_checkState(Qt::Unchecked)
 {
     setText(text); // here, where assistive technology already sees this class
-    setFixedHeight(captionedHeight);
+    setFixedHeight(metrics::controlHeight);
     setFont(QFont(QLatin1String("Arial"), captionPointSize, QFont::Bold));
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CCheckBox"), 0));
 }
@@ -156,7 +156,7 @@ void CCheckBox::mousePressEvent(QMouseEvent* event)
 /// is as wide as high.
 QSize CCheckBox::sizeHint() const
 {
-    const int side = qBound(minimumHeight(), captionedHeight, maximumHeight());
+    const int side = qBound(minimumHeight(), metrics::controlHeight, maximumHeight());
     if (text().isEmpty() && !m_borderVisible)
         return QSize(side, side);
     const int captionEnd = boxRect(side).right() + captionMargin + captionWidth();

@@ -4,13 +4,13 @@
 #include "style/stylewalk_p.h"
 #include "style/widgetstyle.h"
 #include "widgets/characterlayout_p.h"
+#include "widgets/metrics_p.h"
 
 #include <QPainter>
 
 namespace
 {
 
-const int labelHeight = 28;
 const int defaultTextSize = 9;
 const int margin = 2;
 const int wrappedLineHeight = 20;
@@ -30,7 +30,7 @@ CLabel::CLabel(QWidget* parent)
       m_rightMargin(margin),
       m_lineHeight(wrappedLineHeight)
 {
-    setHeight(labelHeight);
+    setHeight(metrics::controlHeight);
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CLabel"), 0));
     setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::ControlGroundColor));
 }

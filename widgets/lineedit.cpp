@@ -2,16 +2,10 @@
 
 #include "style/stylewalk_p.h"
 #include "style/widgetstyle.h"
+#include "widgets/metrics_p.h"
 #include "widgets/painting_p.h"
 
 #include <QPointer>
-
-namespace
-{
-
-const int fieldHeight = 28;
-
-} // namespace
 
 /// An empty field, 28 pixels high, that opens the general keypad without a title and a range; its
 /// font is that of the style file's entry "CLineEdit".
@@ -25,7 +19,7 @@ CLineEdit::CLineEdit(QWidget* parent)
       m_maximum(0),
       m_borderVisible(true)
 {
-    setFixedHeight(fieldHeight);
+    setFixedHeight(metrics::controlHeight);
     // The font comes first, as a sheet would have to go away for it.
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CLineEdit"), 0));
     setStyleSheet(QLatin1String("border: 0px;")); // the frame is painted here

@@ -1,5 +1,7 @@
 #include "widgets/painting_p.h"
 
+#include "widgets/metrics_p.h"
+
 #include <QPainter>
 #include <QPen>
 #include <QWidget>
@@ -70,7 +72,7 @@ void drawBorder(QPainter* painter, const QSize& size, int borderWidth, const QCo
 void drawThinFrame(QWidget* widget)
 {
     QPainter painter(widget);
-    QPen pen(QColor(212, 212, 212));
+    QPen pen(QColor(metrics::thinFrameColor));
     pen.setWidth(1);
     pen.setJoinStyle(Qt::MiterJoin);
     painter.setPen(pen);
