@@ -151,6 +151,8 @@ const QDeviceWatcherPrivate::ActionRow QDeviceWatcherPrivate::s_actions[] = {
 /// The row of \a action, which is in lower case; null when there is none.
 const QDeviceWatcherPrivate::ActionRow* QDeviceWatcherPrivate::rowOf(const QString& action)
 {
+    static_assert(table::count(s_actions) == QDeviceChangeEvent::Change + 1,
+                  "each Action has a row");
     for (int i = 0; i < table::count(s_actions); ++i) {
         if (action == QLatin1String(s_actions[i].action))
             return &s_actions[i];

@@ -54,6 +54,8 @@ const struct StateRow {
     // clang-format on
 };
 static_assert(table::count(states) == CPushButton::Selected + 1, "each ButtonState has a row");
+static_assert(table::count(states) * 2 == CPushButton::SelectedTextColor,
+              "each ExtraAttr, from 1, belongs to a state");
 
 void drawSmoothly(QPainter* painter, const QRect& rect, const QPixmap& pixmap)
 {

@@ -1,7 +1,13 @@
+#include "support/sourcetree.h"
 #include "support/testing.h"
 
 #include <QDir>
-#include <QMap>
+
+using sourcetree::filesBelow;
+using sourcetree::isPublicHeader;
+using sourcetree::librarySources;
+using sourcetree::linesOf;
+using sourcetree::root;
 
 namespace
 {
@@ -25,27 +31,6 @@ const struct Layer {
 // The one upward look that is allowed: a line edit opens a keypad.
 const char lineEdit[] = "widgets/lineedit";
 const char factoryHeader[] = "keypad/keypadfactory.h";
-
-QString root()
-{
-    return QLatin1String(CWIDGET_SOURCE_DIR "/");
-}
-
-QStringList sourcesIn(const QString& folder)
-{
-    QStringList paths;
-    const QDir dir(root() + folder);
-    const QStringList names =
-        dir.entryList(QStringList() << QLatin1String("*.h") << QLatin1String("*.cpp"), QDir::Files);
-    for (int i = 0; i < names.size(); ++i)
-        paths.append(folder + QLatin1Char('/') + names.at(i));
-    return paths;
-}
-
-QStringList linesOf(const QString& path)
-{
-    return QString::fromUtf8(testing::contentOf(root() + path)).split(QLatin1Char('\n'));
-}
 
 /// What a file includes in quotes, as it is written there.
 QStringList quotedIncludesOf(const QString& path)
@@ -77,13 +62,6 @@ QStringList includesOf(const QString& path)
     return includes;
 }
 
-/// Whether applications see the header \a path.
-bool isPublicHeader(const QString& path)
-{
-    return path.endsWith(QLatin1String(".h")) && !path.endsWith(QLatin1String("_p.h")) &&
-           path != QLatin1String("style/qtcompat.h");
-}
-
 bool allowed(const QString& path, const QString& include)
 {
     const QString from = path.section(QLatin1Char('/'), 0, 0);
@@ -97,24 +75,6 @@ bool allowed(const QString& path, const QString& include)
             return QString::fromLatin1(layers[i].below).split(QLatin1Char(' ')).contains(to);
     }
     return false;
-}
-
-QStringList librarySources()
-{
-    QStringList sources;
-    for (size_t i = 0; i < sizeof layers / sizeof layers[0]; ++i)
-        sources += sourcesIn(QLatin1String(layers[i].folder));
-    return sources;
-}
-
-/// Every source below \a folder.
-QStringList sourcesBelow(const QString& folder)
-{
-    QStringList sources = sourcesIn(folder);
-    const QStringList folders = QDir(root() + folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    for (int i = 0; i < folders.size(); ++i)
-        sources += sourcesBelow(folder + QLatin1Char('/') + folders.at(i));
-    return sources;
 }
 
 } // namespace
@@ -185,10 +145,10 @@ void tst_layers::keypadFactoryHeaderIncludesNoWidget()
 void tst_layers::versionOfQtIsAskedInTheCompatibilityHeadersOnly()
 {
     QStringList sources = librarySources();
-    sources += sourcesBelow(QLatin1String("tests"));
-    sources += sourcesBelow(QLatin1String("examples"));
-    sources += sourcesBelow(QLatin1String("benchmarks"));
-    sources += sourcesBelow(QLatin1String("resources"));
+    sources += filesBelow(QLatin1String("tests"));
+    sources += filesBelow(QLatin1String("examples"));
+    sources += filesBelow(QLatin1String("benchmarks"));
+    sources += filesBelow(QLatin1String("resources"));
     const QByteArray word = QByteArray("QT_") + "VERSION";
     int asking = 0;
     for (int i = 0; i < sources.size(); ++i) {
@@ -216,7 +176,7 @@ void tst_layers::sizesOfSources()
 /// Each header's guard is its path, so that no two share one.
 void tst_layers::headersAreGuarded()
 {
-    const QStringList sources = librarySources() + sourcesBelow(QLatin1String("tests"));
+    const QStringList sources = librarySources() + filesBelow(QLatin1String("tests"));
     for (int i = 0; i < sources.size(); ++i) {
         if (!sources.at(i).endsWith(QLatin1String(".h")))
             continue;
