@@ -133,6 +133,17 @@ inline QRect screenGeometry()
 #endif
 }
 
+/// Makes \a ratio pixels of \a image one pixel of what is painted on it. Qt 4 knows only 1.
+inline void setPixelRatio(QImage* image, qreal ratio)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    image->setDevicePixelRatio(ratio);
+#else
+    Q_UNUSED(image);
+    Q_UNUSED(ratio);
+#endif
+}
+
 /// Turns the mouse wheel over the middle of \a widget by \a delta eighths of a degree, positive
 /// away from the user.
 inline void turnWheel(QWidget* widget, int delta)
