@@ -38,10 +38,6 @@ const struct StyleRow {
 };
 static_assert(table::count(styles) == CPushButton::FixedStyle + 1, "each ButtonStyle has pictures");
 
-// What the button keeps beside the attributes of the states.
-const CPushButton::ExtraAttr styleAttr = static_cast<CPushButton::ExtraAttr>(-1);
-const CPushButton::ExtraAttr normalSizeAttr = static_cast<CPushButton::ExtraAttr>(-2);
-
 // The attributes of each state, by the state's number.
 const struct StateRow {
     CPushButton::ExtraAttr pixmap;
@@ -74,6 +70,8 @@ CPushButton::CPushButton(QWidget* parent)
       m_textSize(defaultTextSize),
       m_textColor(Qt::black),
       m_backgroundColor(99, 94, 128, 255),
+      m_buttonStyle(NoStyle),
+      m_normalSize(true),
       m_autoStyleEnabled(true),
       m_looksPressed(false),
       m_shapedText(0)
@@ -190,11 +188,9 @@ void CPushButton::setExtraAttr(ExtraAttr attr, const QVariant& value)
 /// it.
 void CPushButton::setStyle(ButtonStyle style, bool normalSize)
 {
-    if (!table::has(styles, style))
-        style = DefaultStyle;
-    const StyleRow& row = styles[style];
-    m_extraAttrs.insert(styleAttr, static_cast<int>(style));
-    m_extraAttrs.insert(normalSizeAttr, normalSize);
+    m_buttonStyle = table::has(styles, style) ? style : DefaultStyle;
+    m_normalSize = normalSize;
+    const StyleRow& row = styles[m_buttonStyle];
     const QPixmap released = keptpictures::button(row.released, normalSize);
     setBackground(released);
     setExtraAttr(PressedPixmap, keptpictures::button(row.pressed, normalSize));
@@ -205,8 +201,7 @@ void CPushButton::setStyle(ButtonStyle style, bool normalSize)
 /// The look last given to setStyle(); NoStyle, the default, when there is none.
 CPushButton::ButtonStyle CPushButton::buttonStyle() const
 {
-    return static_cast<ButtonStyle>(
-        m_extraAttrs.value(styleAttr, static_cast<int>(NoStyle)).toInt());
+    return m_buttonStyle;
 }
 
 /// Gives the button one of the ready-made looks, as setStyle() with isNormalSize(). NoStyle takes
@@ -214,10 +209,10 @@ CPushButton::ButtonStyle CPushButton::buttonStyle() const
 void CPushButton::setButtonStyle(ButtonStyle style)
 {
     if (style != NoStyle) {
-        setStyle(style, isNormalSize());
+        setStyle(style, m_normalSize);
         return;
     }
-    m_extraAttrs.remove(styleAttr);
+    m_buttonStyle = NoStyle;
     m_extraAttrs.remove(PressedPixmap);
     m_extraAttrs.remove(ReleasedPixmap);
     setBackground(QPixmap());
@@ -227,15 +222,15 @@ void CPushButton::setButtonStyle(ButtonStyle style)
 /// Whether a ready-made look has the pictures of normal size, the default, or the big ones.
 bool CPushButton::isNormalSize() const
 {
-    return m_extraAttrs.value(normalSizeAttr, true).toBool();
+    return m_normalSize;
 }
 
 /// Sets the size of the pictures, those of the look that the button has included.
 void CPushButton::setNormalSize(bool normalSize)
 {
-    m_extraAttrs.insert(normalSizeAttr, normalSize);
-    if (buttonStyle() != NoStyle)
-        setStyle(buttonStyle(), normalSize);
+    m_normalSize = normalSize;
+    if (m_buttonStyle != NoStyle)
+        setStyle(m_buttonStyle, normalSize);
 }
 
 /// What was last given to setSelected(); false by default. A click does not change it.

@@ -125,6 +125,8 @@ private:
     QColor m_backgroundColor;
     QPixmap m_background;
     QMap<ExtraAttr, QVariant> m_extraAttrs;
+    ButtonStyle m_buttonStyle;
+    bool m_normalSize;
     bool m_autoStyleEnabled;
     bool m_looksPressed;
     ShapedText* m_shapedText;
