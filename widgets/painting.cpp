@@ -13,6 +13,7 @@ namespace
 {
 
 const int opaqueAlpha = 255;
+const int widestPen = 32767; // that Qt draws with, and far more than any widget has
 
 } // namespace
 
@@ -60,12 +61,13 @@ void drawBorder(QPainter* painter, const QSize& size, int borderWidth, const QCo
 {
     if (borderWidth < 1)
         return;
+    const int width = qMin(borderWidth, widestPen);
     QPen pen(borderColor.isValid() ? borderColor : backgroundColor);
-    pen.setWidth(borderWidth);
+    pen.setWidth(width);
     pen.setJoinStyle(Qt::MiterJoin);
     painter->setPen(pen);
     painter->setBrush(Qt::NoBrush);
-    painter->drawRect(borderRect(size, borderWidth));
+    painter->drawRect(borderRect(size, width));
 }
 
 /// Draws a grey frame on the outermost pixels of \a widget.
