@@ -7,6 +7,7 @@
 #include "widgets/metrics_p.h"
 
 #include <QPainter>
+#include <QPointer>
 
 namespace
 {
@@ -157,7 +158,10 @@ void CLabel::mousePressEvent(QMouseEvent* event)
 void CLabel::mouseReleaseEvent(QMouseEvent* event)
 {
     QWidget::mouseReleaseEvent(event);
+    const QPointer<CLabel> self(this); // a slot may delete the label
     Q_EMIT clicked();
+    if (!self)
+        event->accept(); // else Qt passes it on to the parents, which may be gone as well
 }
 
 /// Paints background and border, the text and the corner text.
