@@ -74,7 +74,7 @@ void drawBorder(QPainter* painter, const QSize& size, int borderWidth, const QCo
 void drawThinFrame(QWidget* widget)
 {
     QPainter painter(widget);
-    QPen pen(QColor(metrics::thinFrameColor));
+    QPen pen((QColor(metrics::thinFrameColor)));
     pen.setWidth(1);
     pen.setJoinStyle(Qt::MiterJoin);
     painter.setPen(pen);
