@@ -24,6 +24,12 @@ for class in "$build"/forwarding/[A-Z]*; do
 done
 test "$pictures" -eq 27
 
+# Every property, and every class under the name that a program includes.
+source=$(dirname "${BASH_SOURCE[0]}")/../..
+properties=$(cat "$source"/{style,widgets,pages,parm,keypad,hotplug}/*.h | grep -c 'Q_PROPERTY(')
+test "$(cat "$docs"/xml/class*.xml | grep -c '<memberdef kind="property"')" -eq "$properties"
+test "$(grep -l '<includes[^>]*>[A-Z][A-Za-z]*</includes>' "$docs"/xml/class*.xml | wc -l)" -eq 34
+
 # Doxygen itself does not ask for words about enumerators.
 awk '/<enumvalue /   { inside = 1; name = ""; said = 0 }
      inside && /<name>/ { name = $0; gsub(/ *<\/?name>/, "", name) }
