@@ -43,7 +43,7 @@ add_custom_target(docs
 # One reference is for all generations of Qt.
 if(CWIDGET_INSTALL AND NOT CWIDGET_SUFFIX)
   install(DIRECTORY "${CWIDGET_DOCS_DIR}/html" DESTINATION "${CMAKE_INSTALL_DOCDIR}"
-    COMPONENT documentation OPTIONAL)
+    COMPONENT documentation OPTIONAL PATTERN "*.qhp" EXCLUDE)
   install(FILES "${CWIDGET_DOCS_DIR}/quorlin-cwidget.qch" DESTINATION "${CMAKE_INSTALL_DOCDIR}"
     COMPONENT documentation OPTIONAL)
 endif()

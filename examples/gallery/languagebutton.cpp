@@ -20,10 +20,18 @@ const struct Language {
 
 const int languageCount = sizeof languages / sizeof languages[0];
 
+/// For an installed gallery the installed ones, as seen from the program's own folder.
+QString translationsFolder()
+{
+    const QString installed = QCoreApplication::applicationDirPath() +
+                              QString::fromLatin1("/" GALLERY_INSTALLED_TRANSLATIONS);
+    return QFile::exists(installed) ? installed : QString::fromUtf8(GALLERY_TRANSLATIONS);
+}
+
 QString fileOf(const Language& language)
 {
-    return QString::fromUtf8(GALLERY_TRANSLATIONS "/quorlin-cwidget_%1.qm")
-        .arg(QString::fromLatin1(language.file));
+    return translationsFolder() +
+           QString::fromLatin1("/quorlin-cwidget_%1.qm").arg(QString::fromLatin1(language.file));
 }
 
 bool isThere(const Language& language)
