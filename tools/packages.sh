@@ -52,3 +52,10 @@ cwidget_designer_packages() {
         6) echo qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools libqt6opengl6-dev ;;
     esac
 }
+
+# What building the Debian packages needs.
+cwidget_package_packages() {
+    cwidget_build_packages 5
+    echo build-essential debhelper dpkg-dev doxygen fakeroot qttools5-dev qttools5-dev-tools
+    echo fontconfig fonts-dejavu-core fonts-liberation
+}

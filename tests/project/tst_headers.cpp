@@ -126,6 +126,9 @@ void tst_headers::versionIsTheSameEverywhere()
     const QByteArray changes =
         testing::contentOf(QLatin1String(CWIDGET_SOURCE_DIR "/CHANGELOG.md"));
     QVERIFY(changes.contains("\n## " + version.toLatin1()));
+    const QByteArray packages =
+        testing::contentOf(QLatin1String(CWIDGET_SOURCE_DIR "/debian/changelog"));
+    QVERIFY(packages.startsWith("quorlin-cwidget (" + version.toLatin1() + ")"));
 }
 
 QTEST_MAIN(tst_headers)
