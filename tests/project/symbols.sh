@@ -1,0 +1,60 @@
+#!/usr/bin/env bash
+# symbols.sh LIBRARY [--update]
+#
+# Compares what LIBRARY exports with the symbols file of the Debian package. A symbol that goes breaks
+# the programs of others; one that comes is there for good. Whatever is exported belongs to a public
+# class. With --update it writes the file: a symbol keeps the version that it first came with, a new
+# one gets that of style/version.h.
+set -euo pipefail
+library=$1
+project=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
+list=$project/debian/libquorlin-cwidget1.symbols
+
+exported() {
+    # The linker's own three names end the sections of any library.
+    nm -D --defined-only "$library" | awk '{print $NF}' | grep -vE '^(__bss_start|_edata|_end)$' |
+        c++filt | LC_ALL=C sort -u
+}
+
+listed() {
+    sed -n 's/^ (c++)"\(.*\)@Base" .*/\1/p' "$list" | LC_ALL=C sort -u
+}
+
+# The classes and functions that the symbols read from standard input belong to.
+owners() {
+    sed -E 's/^(non-virtual thunk to|typeinfo name for|typeinfo for|vtable for) //; s/(::|\().*//' |
+        LC_ALL=C sort -u
+}
+
+# The public ones, and the one that is exported for the tests.
+allowed() {
+    { cat "$project/tests/package/classes.txt"; printf '%s\n' CParmField getStyle QDeviceWatcherPrivate; } |
+        LC_ALL=C sort -u
+}
+
+if [ "${2:-}" = --update ]; then
+    version=$(sed -n 's/^#define CWIDGET_VERSION_STR "\(.*\)"$/\1/p' "$project/style/version.h")
+    {
+        echo "libquorlin-cwidget.so.1 libquorlin-cwidget1 #MINVER#"
+        echo "* Build-Depends-Package: libquorlin-cwidget-dev"
+        exported | while IFS= read -r symbol; do
+            known=$(grep -F " (c++)\"$symbol@Base\" " "$list" 2>/dev/null || true)
+            echo "${known:- (c++)\"$symbol@Base\" $version}"
+        done
+    } >"$list.new"
+    mv "$list.new" "$list"
+    exit
+fi
+
+foreign=$(exported | owners | LC_ALL=C comm -23 - <(allowed))
+if [ -n "$foreign" ]; then
+    echo "exported, but no public class: $foreign" >&2
+    exit 1
+fi
+if ! diff <(listed) <(exported) | grep '^[<>]' | sed 's/^</gone:/; s/^>/new: /'; then
+    echo "$(listed | wc -l) symbols"
+    exit
+fi
+echo "The exported symbols differ from $list. Where that is meant:" >&2
+echo "  tests/project/symbols.sh $library --update" >&2
+exit 1
