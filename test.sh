@@ -7,6 +7,7 @@
 #   ./test.sh --threads        the tests with several threads, with the Thread sanitizer (Qt 5)
 #   ./test.sh --clang          builds the library and the examples with Clang, and runs nothing
 #   ./test.sh --bench          the benchmarks
+#   ./test.sh --packages       builds the Debian packages, and uses them in a fresh system
 #   ./test.sh --device         the gallery on the frame buffer of a virtual machine, touched and plugged
 #   ./test.sh --fuzz SECONDS   each fuzzer for so long; 0 replays their seeds only (Qt 5)
 #
@@ -22,6 +23,7 @@ threads=OFF
 clang=
 bench=
 fuzz=
+packages=
 device=
 while [ $# -gt 0 ]; do
     case $1 in
@@ -30,10 +32,11 @@ while [ $# -gt 0 ]; do
         --threads) threads=ON; shift ;;
         --clang) clang=1; shift ;;
         --bench) bench=1; shift ;;
+        --packages) packages=1; shift ;;
         --device) device=1; shift ;;
         --fuzz) fuzz=${2:?--fuzz needs a number of seconds}; shift 2 ;;
         --) shift; break ;;
-        *) sed -n '2,13s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
+        *) sed -n '2,14s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
     esac
 done
 if [ "$threads" = ON ] && [ "$qt" != 5 ]; then
@@ -48,6 +51,12 @@ if [ "$qt" = 4 ]; then
         exit 2
     fi
     qt_options=(-DQT_QMAKE_EXECUTABLE="$QT4_DIR/bin/qmake")
+fi
+
+if [ -n "$packages" ]; then
+    cwidget_install debootstrap lintian util-linux
+    ./package.sh
+    exec tests/debian/checkdebian.sh "$PWD"
 fi
 
 test_packages="clang-format-14 clang-14 xvfb openbox xdotool x11-utils usbutils util-linux"

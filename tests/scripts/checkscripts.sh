@@ -8,8 +8,10 @@ source=$1
 
 stage=$(mktemp -d)
 trap 'rm -rf "$stage"' EXIT
-mkdir -p "$stage/tests/device" "$stage/resources"
+mkdir -p "$stage/tests/device" "$stage/tests/debian" "$stage/resources"
 cp -r "$source/test.sh" "$source/gallery.sh" "$source/.ci" "$source/tools" "$stage"
+cp "$source/tests/scripts/stubs/package" "$stage/package.sh"
+cp "$source/tests/scripts/stubs/package" "$stage/tests/debian/checkdebian.sh"
 cd "$stage"
 export STUB_LOG=$stage/stub.log
 export PATH=$source/tests/scripts/stubs:$PATH
@@ -59,6 +61,11 @@ check 2 "--sanitize" ./test.sh --no-such-option
 check 0 "$skipped" ./test.sh -- -R label
 check_calls "-R label"
 
+check 0 "checkdebian.sh $stage" ./test.sh --packages
+check fails "" STUB_FAILS=package.sh ./test.sh --packages
+if grep -q checkdebian "$stage/output"; then complain "packages that were not built are checked"; fi
+check fails "" STUB_FAILS=checkdebian.sh ./test.sh --packages
+
 check 0 "The pictures are in build/shots." ./gallery.sh
 check 0 "the gallery runs: --log" ./gallery.sh --log
 check fails "The build failed" STUB_FAILS=build ./gallery.sh
@@ -71,6 +78,7 @@ for folder in test-qt5 test-qt5-sanitize test-qt5-threads test-qt6; do
     grep -q "==== ./test.sh --qt 6" "$stage/output" || complain ".ci/run stops at the first failure"
 done
 check 1 "==== failed:" STUB_FAILS=build .ci/run
+check 1 "==== failed:" STUB_FAILS=checkdebian.sh .ci/run
 
 # Without any rights the command is named. As nobody, since root would install the package.
 if [ "$(id -u)" -eq 0 ]; then
