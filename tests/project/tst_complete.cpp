@@ -185,7 +185,7 @@ bool isInTheGallery(const QString& name)
 bool isInTheReference(const QString& name)
 {
     return textOf(QLatin1String("docs/reference/groups.dox"))
-        .contains(QLatin1String("/// \\class ") + name + QLatin1Char('\n'));
+        .contains(QLatin1String("/// \\class ") + name + QLatin1Char(' '));
 }
 
 bool isInDesigner(const QString& name)
