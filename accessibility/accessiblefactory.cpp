@@ -109,7 +109,7 @@ bool Accessible::isOne() const
 /// What the application says with setAccessibleName() goes before what the widget shows.
 QString Accessible::text(QAccessible::Text kind) const
 {
-    const QString said = QAccessibleWidget::text(kind);
+    QString said = QAccessibleWidget::text(kind);
     if (!said.isEmpty())
         return said;
     if (kind == QAccessible::Name && m_row.name)

@@ -48,7 +48,7 @@ QString run(const QString& title, const QString& text, CKeyPadFactory::KeyPadTyp
     dialog->exec();
     if (!dialog)
         return text;
-    const QString input = dialog->getInput();
+    QString input = dialog->getInput();
     dialog->hide(); // still open when the application quits meanwhile
     dialog->deleteLater();
     return input;

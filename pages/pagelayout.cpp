@@ -75,6 +75,6 @@ void PageLayout::setGeometry(const QRect& rect)
         QVBoxLayout::setGeometry(rect);
         return;
     }
-    QLayout::setGeometry(rect);
+    QLayout::setGeometry(rect); // NOLINT(bugprone-parent-virtual-call): not the box's, of all rows
     m_page.setGeometry(rect);
 }

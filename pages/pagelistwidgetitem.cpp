@@ -155,7 +155,8 @@ void CPageListWidgetItem::paintEvent(QPaintEvent* event)
 
 QRectF CPageListWidgetItem::iconRect() const
 {
-    return QRectF(iconLeft, (height() - 1) / 2 - iconSize / 2, iconSize, iconSize);
+    const int top = (height() - 1) / 2 - iconSize / 2;
+    return QRectF(iconLeft, top, iconSize, iconSize);
 }
 
 QRect CPageListWidgetItem::textRect() const

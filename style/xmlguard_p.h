@@ -16,7 +16,7 @@ namespace xmlguard
 const int maximumDepth = 5000;
 
 /// What all uses of entities together may give, and what a single entity may, in characters.
-const qint64 maximumExpansion = 4 * 1024 * 1024;
+const qint64 maximumExpansion = Q_INT64_C(4) * 1024 * 1024;
 
 struct Cost {
     qint64 depth;     ///< levels of elements, or of parentheses in the document type

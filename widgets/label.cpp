@@ -192,7 +192,7 @@ void CLabel::drawText(QPainter* painter)
              qtcompat::textWidth(QFontMetrics(font()), m_text) > available)
         CharacterLayout(painter, rect, m_lineHeight).drawWordWrapped(m_text);
     else
-        painter->drawText(rect, m_alignment, m_text);
+        painter->drawText(rect, static_cast<int>(m_alignment), m_text);
 }
 
 void CLabel::drawCornerText(QPainter* painter)
