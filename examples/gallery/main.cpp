@@ -16,6 +16,7 @@
 #include <QVector>
 
 #include <cstdio>
+#include <new>
 
 namespace
 {
@@ -39,6 +40,8 @@ const char noDisplay[] =
 const char servedByVnc[] =
     "The panel is served by VNC, on port 5900, without a password: whoever reaches this machine\n"
     "can see and use it.\n";
+
+const char noMemory[] = "There is not enough memory for the panel.\n";
 
 struct Options {
     Options() : valid(true), log(false), help(false)
@@ -215,5 +218,10 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(QLatin1String("Quorlin gallery"));
     if (QApplication::arguments().size() > 1) // neither ours nor Qt's
         return printMistake("unknown option", QApplication::arguments().at(1));
-    return run(options, &address);
+    try {
+        return run(options, &address);
+    } catch (const std::bad_alloc&) {
+        fputs(noMemory, stderr);
+        return 1;
+    }
 }
