@@ -185,6 +185,7 @@ Appliance::Appliance(const QString& settingsFile)
       m_address(0)
 {
     setSize(CWidgetStyle::getSize(CWidgetStyle::ScreenSize));
+    setWindowTitle(latin("Dosing unit"));
     setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::Color26));
     m_pages->setSize(width() - 2 * margin, 460);
     m_pages->move(margin, m_title->height() + margin);

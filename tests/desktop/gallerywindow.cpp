@@ -24,10 +24,16 @@ int numberAfter(const QString& text, const char* label)
 
 } // namespace
 
-GalleryWindow::GalleryWindow(const QStringList& arguments)
+GalleryWindow::GalleryWindow(const QStringList& arguments) : m_title(latin("Quorlin front panel"))
 {
-    m_process.setStandardErrorFile(latin("gallery-errors.txt"), QIODevice::Append);
-    m_process.start(latin(GALLERY), arguments);
+    start(latin(GALLERY), arguments);
+}
+
+GalleryWindow::GalleryWindow(const QString& title, const QString& program,
+                             const QStringList& arguments)
+    : m_title(title)
+{
+    start(program, arguments);
 }
 
 GalleryWindow::~GalleryWindow()
@@ -36,6 +42,12 @@ GalleryWindow::~GalleryWindow()
         m_process.terminate();
         m_process.waitForFinished(patience);
     }
+}
+
+void GalleryWindow::start(const QString& program, const QStringList& arguments)
+{
+    m_process.setStandardErrorFile(latin("gallery-errors.txt"), QIODevice::Append);
+    m_process.start(program, arguments);
 }
 
 bool GalleryWindow::isRunning()
@@ -54,7 +66,7 @@ bool GalleryWindow::waitUntilShown()
 {
     for (int waited = 0; waited < patience; waited += pause) {
         m_id = testing::xdotool(QStringList() << latin("search") << latin("--onlyvisible")
-                                              << latin("--name") << latin("^Quorlin front panel$"))
+                                              << latin("--name") << latin("^%1$").arg(m_title))
                    .section(QLatin1Char('\n'), -1);
         if (!m_id.isEmpty())
             break;
@@ -105,6 +117,12 @@ void GalleryWindow::close()
     // As the window manager does it when its close button is pressed.
     testing::xdotool(latin("windowactivate --sync ") + m_id);
     testing::xdotool(latin("key alt+F4"));
+}
+
+void GalleryWindow::kill()
+{
+    m_process.kill();
+    m_process.waitForFinished(patience);
 }
 
 QImage GalleryWindow::grab() const

@@ -5,12 +5,13 @@
 
 #include <QProcess>
 
-/// The gallery as a process of its own, on the X server of the test, and its window as a person
-/// sees it. All points are the panel's.
+/// The gallery, or another panel, as a process of its own, on the X server of the test, and its
+/// window as a person sees it. All points are the panel's.
 class GalleryWindow
 {
 public:
     explicit GalleryWindow(const QStringList& arguments = QStringList());
+    GalleryWindow(const QString& title, const QString& program, const QStringList& arguments);
     ~GalleryWindow();
 
     bool isRunning();
@@ -27,6 +28,9 @@ public:
     /// Waits so long that a next click at the same place is no double click.
     void separateClicks() const;
     void close();
+
+    /// Ends it by a signal that nobody can catch.
+    void kill();
 
     /// The pixels of the window on the screen.
     QImage grab() const;
@@ -45,6 +49,9 @@ public:
     static QImage shot(const QString& name);
 
 private:
+    void start(const QString& program, const QStringList& arguments);
+
+    QString m_title;
     QString m_id;
     QPoint m_origin;
     QProcess m_process;

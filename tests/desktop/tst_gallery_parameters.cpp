@@ -1,12 +1,7 @@
 #include "gallerywindow.h"
 
-#include "keypad/keybutton.h"
-#include "keypad/keycodes.h"
-#include "keypad/softkeypad.h"
-#include "listmap.h"
+#include "keymap.h"
 #include "support/desktopmain.h"
-
-#include <QLayout>
 
 namespace
 {
@@ -19,7 +14,6 @@ const int fieldPitch = 56;
 const int valueX = 600;
 const int switchX = 144 + 316 + 13;
 const QColor marked(67, 172, 232);
-const QColor selectedApply(0x5F, 0xD0, 0x8D);
 
 QString latin(const char* text)
 {
@@ -30,21 +24,6 @@ QString latin(const char* text)
 QPoint field(int number)
 {
     return QPoint(valueX, firstField + number * fieldPitch);
-}
-
-QPoint keyOf(CKeyPadFactory::KeyPadType type, const QString& text, int code)
-{
-    CSoftKeyPad keypad(type);
-    keypad.setAttribute(Qt::WA_DontShowOnScreen);
-    keypad.show();
-    keypad.layout()->activate();
-    const QPoint origin = listmap::panelCenter - QPoint(keypad.width() / 2, keypad.height() / 2);
-    const QList<CKeyButton*> keys = keypad.findChildren<CKeyButton*>();
-    for (int i = 0; i < keys.size(); ++i) {
-        if (code ? keys.at(i)->key() == code : keys.at(i)->getKeyText() == text)
-            return origin + keys.at(i)->mapTo(&keypad, keys.at(i)->rect().center());
-    }
-    return QPoint();
 }
 
 } // namespace
@@ -78,14 +57,13 @@ void tst_gallery_parameters::everyKindOfValueArrives()
     QCOMPARE(window.nextLine(), latin("Mode: entry 2"));
 
     window.click(field(4)); // the port, a number
-    const CKeyPadFactory::KeyPadType decimal = CKeyPadFactory::SKP_DECIMAL;
-    const QPoint besideApply = keyOf(decimal, QString(), Key_Apply) - QPoint(35, 0);
-    QVERIFY(window.waitForColor(besideApply, selectedApply)); // the keypad is painted
-    window.click(keyOf(decimal, QString(), Key_DelAll));
-    window.click(keyOf(decimal, latin("5"), 0));
-    window.click(keyOf(decimal, QString(), Key_Apply)); // below the range
+    const KeyMap map(CKeyPadFactory::SKP_DECIMAL);
+    QVERIFY(map.waitUntilShown(window));
+    window.click(map.key(Key_DelAll));
+    window.click(map.key(latin("5")));
+    window.click(map.key(Key_Apply)); // below the range
     window.separateClicks();
-    window.click(keyOf(decimal, QString(), Key_Apply));
+    window.click(map.key(Key_Apply));
     QCOMPARE(window.nextLine(), latin("Port: 1024"));
 }
 
