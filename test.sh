@@ -61,7 +61,7 @@ fi
 
 test_packages="clang-format-14 clang-tidy-14 clang-14 shellcheck xvfb openbox xdotool x11-utils usbutils util-linux"
 device_packages="qemu-system-x86 busybox-static kmod udev usbutils util-linux e2fsprogs python3"
-test_packages+=" doxygen qttools5-dev-tools"
+test_packages+=" doxygen qttools5-dev-tools abigail-tools xz-utils"
 # shellcheck disable=SC2046,SC2086
 cwidget_install $(cwidget_build_packages "$qt") $(cwidget_run_packages "$qt") \
     $(cwidget_designer_packages "$qt") $test_packages
@@ -101,6 +101,7 @@ elif [ -n "$fuzz" ]; then
     target=fuzz
 else
     options+=(-DCMAKE_BUILD_TYPE=Release)
+    if [ "$qt" = 5 ]; then options+=(-DCWIDGET_ABI_CHECK=ON); fi
 fi
 if [ -n "$device" ]; then target=device; fi
 options+=(-DCWIDGET_BUILD_BENCHMARKS="$([ -n "$bench" ] && echo ON || echo OFF)")
