@@ -9,7 +9,7 @@ source tools/packages.sh
 cwidget_install $(cwidget_build_packages 5) $(cwidget_run_packages 5)
 build=build/gallery
 cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DBUILD_TESTING=OFF >/dev/null
-cmake --build "$build" --target quorlin-gallery artwork >/dev/null
+cmake --build "$build" --target quorlin-gallery translations artwork >/dev/null
 
 export FONTCONFIG_FILE=$PWD/resources/fonts.conf QT_QPA_PLATFORM=offscreen
 shots=$(mktemp -d)

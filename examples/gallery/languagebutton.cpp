@@ -1,10 +1,13 @@
 #include "languagebutton.h"
 
+#include <CWidgetStyle>
 #include <QCoreApplication>
 #include <QFile>
 
 namespace
 {
+
+const QSize smallSize(44, 30);
 
 // What the button says, and the ending of the file; none for the texts as they are.
 const struct Language {
@@ -39,6 +42,13 @@ bool isThere(const Language& language)
     return !language.file || QFile::exists(fileOf(language));
 }
 
+/// The picture of a grey button, made smaller.
+QPixmap smallPicture(CWidgetStyle::ButtonStatus status)
+{
+    return CWidgetStyle::getButtonStatus(status, true)
+        .scaled(smallSize, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 } // namespace
 
 LanguageButton::LanguageButton(QWidget* parent) : CPushButton(parent), m_language(0)
@@ -47,7 +57,13 @@ LanguageButton::LanguageButton(QWidget* parent) : CPushButton(parent), m_languag
     for (int i = 0; i < languageCount; ++i)
         complete = complete && isThere(languages[i]);
     setVisible(complete);
-    setStyle(DefaultStyle, true);
+    setFixedSize(smallSize);
+    setBackgroundColor(QColor()); // the corners of the picture let the bar through
+    setAutoFillBackground(false);
+    setBackground(smallPicture(CWidgetStyle::GrayReleased));
+    setExtraAttr(ReleasedPixmap, smallPicture(CWidgetStyle::GrayReleased));
+    setExtraAttr(PressedPixmap, smallPicture(CWidgetStyle::GrayPressed));
+    setTextColor(Qt::white);
     setText(QString::fromLatin1(languages[0].label));
     connect(this, SIGNAL(clicked()), this, SLOT(next()));
 }

@@ -243,7 +243,6 @@ void Panel::addBottomBar()
     m_hint->setGeometry(column + layout::margin - 2, 8, 520, 28);
     addState(bar);
     CPushButton* language = new LanguageButton(bar);
-    language->setFixedSize(44, 30);
     language->move(656, 7);
 }
 
