@@ -47,7 +47,7 @@ void postMouse(QWidget* widget, QEvent::Type type, Qt::MouseButtons buttons)
 }
 
 /// What a finger does. It comes as soon as the caller is back in its event loop: the touch may open
-/// a keypad, for which nobody who only asked for a touch may have to wait.
+/// a keypad, which must not hold up a caller that only asked for a touch.
 void touch(QWidget* widget)
 {
     if (!widget->isEnabled() || !widget->isVisible() || isBehindDialog(widget))

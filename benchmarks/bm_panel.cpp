@@ -21,7 +21,7 @@ namespace
 const char* const columns[] = {"hand", "stock", "sheet", "ours"};
 const int columnCount = sizeof columns / sizeof columns[0];
 
-/// Prints the medians as one table: a row for each job, a column for each who does it.
+/// Prints the medians as one table: a row for each job, a column for each implementation.
 class TableReporter : public benchmark::BenchmarkReporter
 {
 public:

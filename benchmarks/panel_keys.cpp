@@ -19,7 +19,7 @@ namespace
 
 const QPoint inKey(10, 10);
 
-/// What a key of our grid is, for those who rebuild it.
+/// What a key of our grid is, for the grids that rebuild it.
 struct KeyPlace {
     QRect rect;
     QString text;

@@ -57,10 +57,10 @@ QWidget* make(QWidget* parent)
 
 // clang-format off
 const WidgetRow widgetRows[] = {
-    {"CWidget",                 make<CWidget>,                 true,  200, 120, "main-area_selection.png",           0, 120, "Base of all screens: a ground and a border",        ""},
-    {"CDialog",                 make<CDialog>,                 true,  320, 200, "TB_CLOSE_3states.png",              0,  44, "Dialog with a ground and a border",                 ""},
+    {"CWidget",                 make<CWidget>,                 true,  200, 120, "main-area_selection.png",           0, 120, "Base of all screens: a background and a border",        ""},
+    {"CDialog",                 make<CDialog>,                 true,  320, 200, "TB_CLOSE_3states.png",              0,  44, "Dialog with a background and a border",                 ""},
     {"CPageWidget",             make<CPageWidget>,             true,  320, 240, "next_page.png",                     0,  25, "Pages, one shown at a time, and a page bar",        PAGES},
-    {"CGraphicsView",           make<CGraphicsView>,           false, 200, 120, "zoom.png",                          0,  22, "Graphics view with a ground and a border",          ""},
+    {"CGraphicsView",           make<CGraphicsView>,           false, 200, 120, "zoom.png",                          0,  22, "Graphics view with a background and a border",          ""},
     {"CTopTitleArea",           make<CTopTitleArea>,           true,  320,  30, "UTIL_TB_BKGROUND.png",              0,  44, "Strip with a title",                                TEXT("title", "Title")},
     {"CPushButton",             make<CPushButton>,             false, 120,  40, "RCTB_BUTTONGREEN_3states.png",      0, 120, "Touch button",                                      TEXT("text", "Button") CHOICE("buttonStyle", "CPushButton::GreenStyle")},
     {"CLabel",                  make<CLabel>,                  false, 120,  28, "group-background_120X30.png",       0, 120, "Text with a second one in the right corner",        TEXT("text", "Label")},

@@ -61,9 +61,9 @@ bool isListed(const InventoryRow& row, QProcess& lister, QProcess& filter)
     return listed;
 }
 
-/// Notes in the registry that the input device, of which the notification \a dev tells, has come or
-/// gone. The expressions for mouse and storage begin with a quantifier, which is no valid syntax,
-/// so that they never match: only keyboards are followed, and that is wanted.
+/// Notes in the registry that the input device in the notification \a dev has come or gone.
+/// Deliberate: the expressions for mouse and storage begin with a quantifier, which is not valid
+/// syntax, and so never match; only keyboards are followed.
 void noteInputDevice(const QString& dev, Qt::CaseSensitivity mouseCase, bool available)
 {
     if (!contains(dev, "SUBSYSTEM=input"))
@@ -129,8 +129,8 @@ void CHotplugWatcher::addDevice(const QString& dev)
     noteInputDevice(dev, Qt::CaseInsensitive, true);
 }
 
-/// Notes the keyboard as not attached, by the same tests as addDevice(). That the expression for
-/// the mouse minds the case here, and not there, is wanted.
+/// Notes the keyboard as not attached, by the same tests as addDevice(). Deliberate: the expression
+/// for the mouse is case-sensitive here and not there.
 void CHotplugWatcher::removeDevice(const QString& dev)
 {
     noteInputDevice(dev, Qt::CaseSensitive, false);

@@ -16,7 +16,7 @@ const int defaultHeight = 390;
 /// An empty black grid of 560 x 390 pixels.
 CAbstractKeyPad::CAbstractKeyPad(QWidget* parent) : CWidget(parent)
 {
-    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::KeyPadGroundColor));
+    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::KeyPadBackgroundColor));
     setSize(defaultWidth, defaultHeight);
 }
 

@@ -46,7 +46,7 @@ constexpr keygrid::Row rows[] = {
     {3, 10,                        false},
     {3, 10,                        false},
     {3, 10,                        false},
-    {0, 10,                        false}, // wanted: a row without keys
+    {0, 10,                        false}, // Deliberate: a row without keys
     {1, 10,                        false},
     {5, keygrid::inheritedSpacing, true},
     // clang-format on

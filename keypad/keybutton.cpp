@@ -49,7 +49,7 @@ void CKeyButton::setKeyText(const QString& text)
     setText(text);
 }
 
-/// The text that the key shows instead while symbols are wanted, empty by default.
+/// The text that the key shows instead while symbols are on, empty by default.
 QString CKeyButton::getSymbol() const
 {
     return m_symbol;
@@ -76,7 +76,7 @@ void CKeyButton::mousePressEvent(QMouseEvent* event)
         updateStatus(Pressed);
 }
 
-/// A key that was let go looks selected, not released: its keypad tells when it no longer is.
+/// A released key looks selected, not released, until its keypad selects another one.
 void CKeyButton::mouseReleaseEvent(QMouseEvent* event)
 {
     const QPointer<CKeyButton> self(this); // a slot of clicked() may delete the key
@@ -85,7 +85,7 @@ void CKeyButton::mouseReleaseEvent(QMouseEvent* event)
         updateStatus(Selected);
 }
 
-/// The second of two quick touches is a press like every other, also for whoever watches the key:
+/// The second of two quick touches is a press like any other, also for an event filter of the key:
 /// no letter of a word like "hello" gets lost.
 void CKeyButton::mouseDoubleClickEvent(QMouseEvent* event)
 {

@@ -47,7 +47,7 @@ void CKeyPadEdit::setFixedSize(int width, int height)
     m_titleStrip->setFixedWidth(width);
 }
 
-/// Sets the title, and inserts \a text at the cursor: wanted, what the field holds stays.
+/// Sets the title, and inserts \a text at the cursor. Deliberate: what the field holds stays.
 void CKeyPadEdit::setText(const QString& title, const QString& text)
 {
     m_title = title;
@@ -56,8 +56,8 @@ void CKeyPadEdit::setText(const QString& title, const QString& text)
     textCursor().insertText(text);
 }
 
-/// Only the code of the key is looked at. So in a keypad for numbers a key that types nothing, for
-/// example an arrow, deletes a character too, wanted so.
+/// Deliberate: only the code of the key is looked at, so that in a keypad for numbers a key that
+/// types nothing, for example an arrow, deletes a character too.
 void CKeyPadEdit::keyPressEvent(QKeyEvent* event)
 {
     QTextEdit::keyPressEvent(event);

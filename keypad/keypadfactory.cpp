@@ -59,8 +59,8 @@ QString run(const QString& title, const QString& text, CKeyPadFactory::KeyPadTyp
 /// Asks for a text with a keypad of \a type that is headed \a title, starts with \a text, and when
 /// its type is SKP_HEX, SKP_BINARY or SKP_DECIMAL accepts numbers from \a min to \a max only.
 ///
-/// Returns the entry, in whatever way the keypad was closed: who must tell a change from a rejected
-/// keypad compares it with \a text. Returns \a text itself when the keypad was deleted together
+/// Returns the entry, in whatever way the keypad was closed: to tell a change from a rejected
+/// keypad, compare it with \a text. Returns \a text itself when the keypad was deleted together
 /// with its parent. The parent is by default the active window; the keypad is always centred on the
 /// active window and, without one, on that of the parent or on the screen.
 QString CKeyPadFactory::accessKeyPad(const QString& title, const QString& text, KeyPadType type,
@@ -70,8 +70,8 @@ QString CKeyPadFactory::accessKeyPad(const QString& title, const QString& text, 
                [min, max](CSoftKeyPad* dialog) { dialog->setRange(min, max); });
 }
 
-/// As above with the range as texts. They are stored, but the entry is checked against the integer
-/// range, wanted so, which is from 0 to 0 here.
+/// As above with the range as texts. Deliberate: they are stored, but the entry is checked against
+/// the integer range, which is from 0 to 0 here.
 QString CKeyPadFactory::accessKeyPad(const QString& title, const QString& text, KeyPadType type,
                                      const QString& min, const QString& max, QWidget* parent)
 {

@@ -40,7 +40,7 @@ constexpr keygrid::Row rows[] = {
     {3, 20,                        false},
     {3, 20,                        false},
     {3, 20,                        false},
-    {0, 20,                        false}, // wanted: a row without keys
+    {0, 20,                        false}, // Deliberate: a row without keys
     {3, 20,                        false},
     {5, keygrid::inheritedSpacing, false},
     // clang-format on
@@ -94,8 +94,8 @@ bool CNumKeyPad::initialize()
 }
 
 /// Disables the keys that \a mode has no use for. SignedMode and unknown modes bring back what the
-/// stored mode disabled. That is never changed after construction, wanted so: nothing comes back,
-/// whoever needs another mode makes another grid.
+/// stored mode disabled. Deliberate: that mode never changes after construction, so nothing comes
+/// back; for another mode, make another grid.
 void CNumKeyPad::setMode(Mode mode)
 {
     if (mode == BinaryMode)

@@ -164,8 +164,8 @@ void CComboBox::setVisibleItems(const QStringList& texts, int current)
     setVisibleItems(indexes, current);
 }
 
-/// Fills the closed box. With a current entry above 0 the box is silent about its first row, else
-/// it tells it: the order of the steps differs, wanted so.
+/// Fills the closed box. Deliberate: the order of the steps differs, so that the box is silent
+/// about its first row when the current entry is above 0, and else tells it.
 void CComboBox::fill(const QStringList& texts, int current)
 {
     const bool wasBlocked = blockSignals(true);
@@ -192,7 +192,7 @@ void CComboBox::setVisibleItems(const QStringList& texts, const QString& current
     int index = m_items.indexOf(current);
     if (index < 0)
         index = m_currentIndex;
-    if (index > m_items.size()) // wanted: an index equal to the count passes
+    if (index > m_items.size()) // Deliberate: an index equal to the count passes
         index = m_items.size() - 1;
     setVisibleItems(texts, index);
 }
@@ -405,7 +405,7 @@ void CComboBox::itemActivated(const QString& text)
         Q_EMIT activated(index);
 }
 
-/// Paints Qt's combo box, and if wanted a frame of one pixel.
+/// Paints Qt's combo box and, unless it is switched off, a frame of one pixel.
 void CComboBox::paintEvent(QPaintEvent* event)
 {
     QComboBox::paintEvent(event);

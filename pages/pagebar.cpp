@@ -84,7 +84,7 @@ void CPageBar::buildHorizontal()
     setSize(horizontalWidth, metrics::pageBarHeight);
 }
 
-/// The arrow up steps forward and the arrow down back, wanted so.
+/// Deliberate: the arrow up steps forward, and the arrow down back.
 void CPageBar::buildVertical()
 {
     dress(m_rightButton, upArrow);
@@ -134,8 +134,8 @@ void CPageBar::addPages(int count)
 
 /// Counts one page less. Where a page up to the current one goes, the current number steps back
 /// with it, but if the current one itself goes, the page that followed takes its place. Ignored
-/// without pages and for negative numbers; a number past the last page still counts one page less,
-/// wanted so. Emits nothing.
+/// without pages and for negative numbers. Deliberate: a number past the last page still counts one
+/// page less. Emits nothing.
 void CPageBar::removePage(int index)
 {
     if (index < 0 || m_count == 0)
@@ -176,7 +176,7 @@ void CPageBar::setTextColor(const QColor& color)
     update();
 }
 
-/// Sets the colour of the ground, of the arrows' too, and repaints.
+/// Sets the colour of the background, of the arrows' too, and repaints.
 void CPageBar::setBackgroundColor(const QColor& color)
 {
     m_leftButton->setBackgroundColor(color);

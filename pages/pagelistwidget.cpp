@@ -74,7 +74,7 @@ void CPageListWidget::setItems(const QStringList& texts)
 }
 
 /// Makes \a texts the list of texts, adds a row for each of them and lets all of them take part in
-/// paging. Rows that are there already stay, wanted so: clear() comes first.
+/// paging. Deliberate: rows that are there already stay; call clear() first.
 void CPageListWidget::addItems(const QStringList& texts)
 {
     m_items = texts;
@@ -85,8 +85,8 @@ void CPageListWidget::addItems(const QStringList& texts)
     setVisibleItems(all);
 }
 
-/// Appends \a text to the list of texts and adds rows for the whole list, wanted so: of the old and
-/// the new rows together, as many take part in paging as there are texts.
+/// Appends \a text to the list of texts. Deliberate: rows are added for the whole list; of the old
+/// and the new rows together, as many take part in paging as there are texts.
 void CPageListWidget::addItem(const QString& text)
 {
     const QStringList texts = QStringList(m_items) << text;
@@ -101,7 +101,7 @@ void CPageListWidget::clear()
 }
 
 /// Lets the entries with the given \a indexes take part in paging; the rows keep their order. The
-/// page bar keeps its page as far as it exists; the rows keep theirs in any case, wanted so.
+/// page bar keeps its page as far as it exists. Deliberate: the rows keep theirs in any case.
 void CPageListWidget::setVisibleItems(const QList<int>& indexes)
 {
     m_visibleIndex = indexes;
@@ -129,8 +129,8 @@ QStringList CPageListWidget::visibleItems() const
     return texts;
 }
 
-/// The texts of the page that the page bar shows, counted over all texts and not only over those
-/// that take part in paging, wanted so. Empty where there is no such page.
+/// The texts of the page that the page bar shows. Deliberate: counted over all texts and not only
+/// over those that take part in paging. Empty where there is no such page.
 QStringList CPageListWidget::getCurrentItems() const
 {
     const int start = m_pageBar->currentIndex() * m_maxVisibleRows;
@@ -156,7 +156,7 @@ void CPageListWidget::show(int index)
 }
 
 /// Opens the list with \a text in the header; the entry with that text is marked if it is on the
-/// page that was shown last. Unlike show(int) this does not turn the page, wanted so.
+/// page that was shown last. Deliberate: unlike show(int) this does not turn the page.
 void CPageListWidget::show(const QString& text)
 {
     setVisible(true);

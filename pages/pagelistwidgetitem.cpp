@@ -34,8 +34,8 @@ CPageListWidgetItem::CPageListWidgetItem(const QString& text, QWidget* parent)
     initialize();
 }
 
-/// A row with an icon and a text, active and without an index. It has no colours for the selected
-/// row and the row under the finger, wanted so: its ground is never filled.
+/// A row with an icon and a text, active and without an index. Deliberate: it has no colours for
+/// the selected row and the row under the finger, so its background is never filled.
 CPageListWidgetItem::CPageListWidgetItem(const QIcon& icon, const QString& text, QWidget* parent)
     : CWidget(parent),
       m_index(noIndex),

@@ -92,8 +92,8 @@ void CPageListWidgetItemArea::clear()
 }
 
 /// Lets the rows with the given \a indexes take part in paging, in the order in which they were
-/// added, and hides all others. Where the current page does not exist any more all of them are
-/// shown, wanted so.
+/// added, and hides all others. Deliberate: where the current page no longer exists, all of them
+/// are shown.
 void CPageListWidgetItemArea::setVisibleItems(const QList<int>& indexes)
 {
     QSet<int> offered;
@@ -263,7 +263,7 @@ void CPageListWidgetItemArea::mouseReleaseEvent(QMouseEvent* event)
         event->accept(); // else Qt passes it on to the parents, which may be gone as well
 }
 
-/// The row that was marked before keeps its mark until the next updateStatus(), wanted so. The
+/// Deliberate: the row that was marked before keeps its mark until the next updateStatus(). The
 /// index is told as the slots of the text have left it.
 void CPageListWidgetItemArea::choose(CPageListWidgetItem* item)
 {

@@ -33,7 +33,7 @@ void updatePage(QWidget* page, void* data, unsigned int size)
 
 } // namespace
 
-/// A page widget without pages on a lavender ground; its font is that of the style file's entry
+/// A page widget without pages on a lavender background; its font is that of the style file's entry
 /// "CPageWidget".
 CPageWidget::CPageWidget(QWidget* parent)
     : CWidget(parent),
@@ -50,7 +50,7 @@ CPageWidget::CPageWidget(QWidget* parent)
     layout->addWidget(m_pageBar);
     letBarGrow();
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CPageWidget"), 0));
-    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::ContainerGroundColor));
+    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::ContainerBackgroundColor));
     connect(m_pageBar, SIGNAL(pageChanged(int)), this, SLOT(setCurrentPage(int)));
 }
 
@@ -78,9 +78,9 @@ void CPageWidget::addPage(QWidget* page)
     page->setProperty(pageNumberProperty, m_stack->count() - 1);
 }
 
-/// Inserts \a page, which becomes a child, at position \a index and gives it that number; the other
-/// pages keep theirs, so that numbers may repeat, wanted so. Out of range it becomes the last page,
-/// with the number as given. A null page is ignored.
+/// Inserts \a page, which becomes a child, at position \a index and gives it that number.
+/// Deliberate: the other pages keep theirs, so that numbers may repeat. Out of range it becomes the
+/// last page, with the number as given. A null page is ignored.
 void CPageWidget::insertPage(int index, QWidget* page)
 {
     if (!page)
@@ -91,8 +91,7 @@ void CPageWidget::insertPage(int index, QWidget* page)
 }
 
 /// Takes the page at position \a index out; it has no parent any more and belongs to the caller.
-/// The page bar counts one page less even where there is none at a position past the last, wanted
-/// so.
+/// Deliberate: the page bar counts one page less even when the position is past the last one.
 void CPageWidget::removePage(int index)
 {
     if (QWidget* page = m_stack->widget(index)) {
@@ -103,8 +102,8 @@ void CPageWidget::removePage(int index)
 }
 
 /// Takes the pages with \a number out of sight; they stay children and showPage() brings them back.
-/// Of two neighbours with the same number only the first one goes, and the page bar takes the
-/// number for a position, both wanted so.
+/// Deliberate: of two neighbours with the same number only the first one goes, and the page bar
+/// takes the number for a position.
 void CPageWidget::hidePage(int number)
 {
     for (int position = 0; position < m_stack->count(); ++position) {
@@ -117,9 +116,9 @@ void CPageWidget::hidePage(int number)
     }
 }
 
-/// Brings the page with \a number that was hidden first back, before the first page with a higher
-/// number. Without one it goes before the last page, not behind it, wanted so. Ignored when no such
-/// page is hidden.
+/// Brings back the page with \a number that was hidden first, before the first page with a higher
+/// number. Deliberate: without one it goes before the last page, not behind it. Ignored when no
+/// such page is hidden.
 void CPageWidget::showPage(int number)
 {
     QWidget* page = takeHiddenPage(number);
@@ -200,7 +199,7 @@ void CPageWidget::setSize(int width, int height)
     m_pageBar->setSize(width, metrics::pageBarHeight);
 }
 
-/// Sets the colour of the ground, of the page bar's too, and repaints.
+/// Sets the colour of the background, of the page bar's too, and repaints.
 void CPageWidget::setBackgroundColor(const QColor& color)
 {
     CWidget::setBackgroundColor(color);
@@ -234,9 +233,9 @@ void CPageWidget::closePageAutoUpdate(int number)
 }
 
 /// Passes \a data and \a size on to the registered pages, in the order of registration, and then to
-/// the page on screen. Pages that are neither CWidget nor CGraphicsView are left out. A page can be
-/// updated twice, wanted so: the page on screen counts as registered by its position, the others by
-/// their number.
+/// the page on screen. Pages that are neither CWidget nor CGraphicsView are left out.
+/// Deliberate: a page can be updated twice, as the page on screen counts as registered by its
+/// position, and the others by their number.
 void CPageWidget::updateParm(void* data, unsigned int size)
 {
     if (!m_stack)

@@ -98,7 +98,7 @@ void CParmCheckBox::setBorderVisible(bool visible)
 }
 
 /// Styles the name by the FieldName entry of \a style, with font and colours; the FieldValue entry
-/// gives the check box its font. The FieldAll entry is ignored, wanted so.
+/// gives the check box its font. Deliberate: the FieldAll entry is ignored.
 void CParmCheckBox::setWidgetStyle(WidgetStyle style)
 {
     parmpattern::applyStyle(this, style, &m_style, [this](const Style& entry) {

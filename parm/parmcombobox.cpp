@@ -171,24 +171,24 @@ void CParmComboBox::setWidth(int width)
     parmpattern::setWidths(width, Proportion1To1, m_nameLabel, m_comboBox);
 }
 
-/// Sets the colour of the name's ground. FieldValue does nothing, wanted so: the combo box keeps
-/// its own look.
+/// Sets the colour of the name's background. Deliberate: FieldValue does nothing, as the combo box
+/// keeps its own look.
 void CParmComboBox::setBackgroundColor(const QColor& color, FieldFlag flag)
 {
     if (flag != FieldValue)
         m_nameLabel->setBackgroundColor(color);
 }
 
-/// Sets the colour of the name's text. FieldValue does nothing, wanted so: the combo box keeps its
-/// own look.
+/// Sets the colour of the name's text. Deliberate: FieldValue does nothing, as the combo box keeps
+/// its own look.
 void CParmComboBox::setTextColor(const QColor& color, FieldFlag flag)
 {
     if (flag != FieldValue)
         m_nameLabel->setTextColor(color);
 }
 
-/// Sets whether the name has a border of a pixel. FieldValue does nothing, wanted so: the combo box
-/// keeps its own look.
+/// Sets whether the name has a border of one pixel. Deliberate: FieldValue does nothing, as the
+/// combo box keeps its own look.
 void CParmComboBox::setBorderVisible(bool visible, FieldFlag flag)
 {
     if (flag != FieldValue)
@@ -196,7 +196,7 @@ void CParmComboBox::setBorderVisible(bool visible, FieldFlag flag)
 }
 
 /// Styles the name by the FieldName entry of \a style, with font and colours; the FieldValue entry
-/// gives the combo box its font. The FieldAll entry is ignored, wanted so.
+/// gives the combo box its font. Deliberate: the FieldAll entry is ignored.
 void CParmComboBox::setWidgetStyle(WidgetStyle style)
 {
     parmpattern::applyStyle(this, style, &m_style, [this](const Style& entry) {

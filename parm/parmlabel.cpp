@@ -74,7 +74,7 @@ void CParmLabel::setHeight(int height)
     m_valueLabel->setHeight(height);
 }
 
-/// Sets the font of the name; the value keeps its own, wanted so.
+/// Sets the font of the name. Deliberate: the value keeps its own.
 void CParmLabel::setFont(const QFont& font)
 {
     m_nameLabel->setFont(font);
@@ -103,7 +103,7 @@ void CParmLabel::forLabels(FieldFlag flag, Action action)
         action(m_valueLabel);
 }
 
-/// Sets the colour of the ground of the parts that \a flag means.
+/// Sets the background colour of the parts that \a flag means.
 void CParmLabel::setBackgroundColor(const QColor& color, FieldFlag flag)
 {
     forLabels(flag, [&](CLabel* label) { label->setBackgroundColor(color); });

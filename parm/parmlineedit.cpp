@@ -58,8 +58,8 @@ void CParmLineEdit::setText(const QString& value)
     m_lineEdit->setText(value);
 }
 
-/// Fixes the width, in pixels, and splits it, from now on whenever the width changes. Of two halves
-/// the name's is a pixel wider, wanted so. An unknown proportion leaves the parts as they are.
+/// Fixes the width, in pixels, and splits it, from now on whenever the width changes. Deliberate:
+/// of two halves the name's is a pixel wider. An unknown proportion leaves the parts as they are.
 void CParmLineEdit::setWidth(int width, Proportion proportion)
 {
     m_proportion = proportion;
@@ -68,16 +68,16 @@ void CParmLineEdit::setWidth(int width, Proportion proportion)
                            proportion == Proportion1To1 ? 1 : 0);
 }
 
-/// Sets the colour of the name's ground. FieldValue does nothing, wanted so: the line edit's
-/// colours are its own.
+/// Sets the colour of the name's background. Deliberate: FieldValue does nothing, as the line
+/// edit's colours are its own.
 void CParmLineEdit::setBackgroundColor(const QColor& color, FieldFlag flag)
 {
     if (flag != FieldValue)
         m_nameLabel->setBackgroundColor(color);
 }
 
-/// Sets the colour of the name's text. FieldValue does nothing, wanted so: the line edit's colours
-/// are its own.
+/// Sets the colour of the name's text. Deliberate: FieldValue does nothing, as the line edit's
+/// colours are its own.
 void CParmLineEdit::setTextColor(const QColor& color, FieldFlag flag)
 {
     if (flag != FieldValue)
@@ -85,7 +85,7 @@ void CParmLineEdit::setTextColor(const QColor& color, FieldFlag flag)
 }
 
 /// Styles the name by the FieldName entry of \a style, with font and colours; the FieldValue entry
-/// gives the line edit its font. The FieldAll entry is ignored, wanted so.
+/// gives the line edit its font. Deliberate: the FieldAll entry is ignored.
 void CParmLineEdit::setWidgetStyle(WidgetStyle style)
 {
     parmpattern::applyStyle(this, style, &m_style, [this](const Style& entry) {

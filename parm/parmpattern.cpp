@@ -55,7 +55,7 @@ CLabel* addNameLabel(QHBoxLayout* layout, const QString& name, int borderWidth)
     CLabel* const label = new CLabel(layout->parentWidget());
     label->setBorderWidth(borderWidth);
     label->setBorderColor(Qt::black);
-    label->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::NameGroundColor));
+    label->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::NameBackgroundColor));
     label->setText(name);
     layout->addWidget(label);
     return label;

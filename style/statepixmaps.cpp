@@ -112,14 +112,14 @@ const struct {
     int size;
 } leds[] = {
     // clang-format off
-    {"BB_LIGHT_4states.png",  20, 19}, // large: wanted one pixel short of the pitch
+    {"BB_LIGHT_4states.png",  20, 19}, // large. Deliberate: a pixel short of the pitch
     {"BB_LIGHT_4states.png",  20, 19},
     {"led_16X16 pixels.png",  16, 16},
     // clang-format on
 };
 static_assert(table::count(leds) == CWidgetStyle::SmallIcon + 1, "each IconMode has a picture");
 
-// ---- arrows, signs and grounds; a row without image is a null pixmap
+// ---- arrows, signs and backgrounds; a row without image is a null pixmap
 
 const Slice pageSwitches[] = {
     // clang-format off
@@ -210,7 +210,7 @@ static_assert(table::count(signalImages) == CWidgetStyle::Signal100 + 1,
 const int appWidth = 93;
 const int appHeight = 44;
 const int appRows[] = {0, 1, 1, 0, 2, 2, 3, 1, 1, 3, 2, 2, 6, 4, 4, 6, 5, 5, 9, 7, 7, 9, 8, 8};
-// Wanted: only the first six tiles come from other columns than the first.
+// Deliberate: only the first six tiles come from other columns than the first.
 const int appColumns[] = {0, 1, 2, 0, 1, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
 static_assert(table::count(appRows) == CWidgetStyle::App23 + 1, "each AppStatus has a tile's row");
 static_assert(table::count(appColumns) == table::count(appRows), "and its column");
@@ -230,7 +230,7 @@ QPixmap CWidgetStyle::getButtonStatus(ButtonStatus status, bool normalSize)
 /// The picture of a key of a keypad; a null pixmap for an unknown status.
 QPixmap CWidgetStyle::getKeyStatus(KeyStatus status)
 {
-    // Two slices are irregular, and wanted so. Both end at the image's edge: the first is 75 x 45
+    // Deliberate: two slices are irregular. Both end at the image's edge: the first is 75 x 45
     // all the same, the second 20 x 30 of the other keypad's key.
     if (status == GenDelAllSelected)
         return load("GENKB_DELALL_BTN.png", 150, 0, 750, 45);
@@ -295,7 +295,7 @@ QPixmap CWidgetStyle::getCloseStatus(CloseStatus status)
     return load(closeButtons[table::has(closeButtons, status) ? status : CloseReleased]);
 }
 
-/// The ground of a menu entry, 140 x 50 pixels; a null pixmap for an unknown status.
+/// The background of a menu entry, 140 x 50 pixels; a null pixmap for an unknown status.
 QPixmap CWidgetStyle::getEntryStatus(EntryStatus status)
 {
     return table::has(entries, status) ? load(entries[status]) : QPixmap();

@@ -86,7 +86,7 @@ public:
     /// Pictures of a close button.
     enum CloseStatus : int { ClosePressed = 0, CloseReleased = 1, CloseSelected = 2 };
 
-    /// Grounds of a menu entry.
+    /// Backgrounds of a menu entry.
     enum EntryStatus : int { EntryFirst = 0, EntrySecond = 1, EntryThird = 2 };
 
     /// Strength of the wireless signal in percent.
@@ -118,16 +118,16 @@ public:
 
     /// Roles of the palette. Some share a colour today and are distinct all the same.
     enum ColorCode : int {
-        PanelGroundColor = 0,  ControlGroundColor = 1, ContainerGroundColor = 2,
-        Color3 = 3,            Color4 = 4,             Color5 = 5,
-        NameGroundColor = 6,   Color7 = 7,             Color8 = 8,
-        KeyPadGroundColor = 9, Color10 = 10,           Color11 = 11,
-        Color12 = 12,          Color13 = 13,           Color14 = 14,
-        Color15 = 15,          Color16 = 16,           Color17 = 17,
-        Color18 = 18,          Color19 = 19,           Color20 = 20,
-        Color21 = 21,          Color22 = 22,           Color23 = 23,
-        Color24 = 24,          Color25 = 25,           Color26 = 26,
-        Color27 = 27,          Color28 = 28
+        PanelBackgroundColor = 0,  ControlBackgroundColor = 1, ContainerBackgroundColor = 2,
+        Color3 = 3,                Color4 = 4,                 Color5 = 5,
+        NameBackgroundColor = 6,   Color7 = 7,                 Color8 = 8,
+        KeyPadBackgroundColor = 9, Color10 = 10,               Color11 = 11,
+        Color12 = 12,              Color13 = 13,               Color14 = 14,
+        Color15 = 15,              Color16 = 16,               Color17 = 17,
+        Color18 = 18,              Color19 = 19,               Color20 = 20,
+        Color21 = 21,              Color22 = 22,               Color23 = 23,
+        Color24 = 24,              Color25 = 25,               Color26 = 26,
+        Color27 = 27,              Color28 = 28
     };
 
     /// Fonts of the theme, see getFont().

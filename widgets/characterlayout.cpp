@@ -43,9 +43,9 @@ void CharacterLayout::drawCharWrapped(const QString& text)
 
 /// Breaks before a separator whose next word does not fit.
 ///
-/// Inside a word that is wider than a line, the layout starts a new line and goes on from the
-/// separator before the word, so that the beginning of the word is drawn again there; without such
-/// a separator it leaves out the character that did not fit. Both are wanted.
+/// Deliberate: inside a word that is wider than a line, the layout starts a new line and goes on
+/// from the separator before the word, so that the beginning of the word is drawn again there;
+/// without such a separator it leaves out the character that did not fit.
 void CharacterLayout::drawWordWrapped(const QString& text)
 {
     int i = 0;

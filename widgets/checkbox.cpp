@@ -58,7 +58,7 @@ bool CCheckBox::isChecked() const
     return m_checkState == Qt::Checked;
 }
 
-/// Ticks the box or not and repaints. It never emits stateChanged(), wanted so: only a finger's
+/// Ticks the box or not and repaints. Deliberate: it never emits stateChanged(), as only a finger's
 /// changes are announced.
 void CCheckBox::setChecked(bool checked)
 {
@@ -111,13 +111,13 @@ void CCheckBox::setForegroundColor(const QColor& color)
     update();
 }
 
-/// The colour of the ground; invalid, the default, when it is that of the parent.
+/// The colour of the background; invalid, the default, when it is that of the parent.
 QColor CCheckBox::backgroundColor() const
 {
     return m_backgroundColor;
 }
 
-/// Sets the colour of the ground and repaints.
+/// Sets the colour of the background and repaints.
 void CCheckBox::setBackgroundColor(const QColor& color)
 {
     m_backgroundColor = color;

@@ -8,9 +8,9 @@
 #include <QColor>
 #include <QRect>
 
-/// The touch check box: a square with a drawn tick, a caption beside it, and if wanted a thin frame
-/// around both. It changes as soon as a finger touches it, and announces that; what the application
-/// sets with setChecked() stays silent.
+/// The touch check box: a square with a drawn tick, a caption beside it, and optionally a thin
+/// frame around both. It changes as soon as a finger touches it, and announces that; what the
+/// application sets with setChecked() stays silent.
 ///
 /// The state is its own. That of Qt's button, which isChecked(), setChecked(), checkState() and
 /// setCheckState() hide here, is never set, so reach the box through a pointer of this class.

@@ -164,8 +164,8 @@ QRect CClockProgress::textRect() const
     return rect().translated(-1, -1);
 }
 
-/// The text over the clock. The percentage is a division of integers, wanted so: 0 or 1, not up to
-/// 100. Without a maximum it is 0.
+/// The text over the clock. Deliberate: the percentage is a division of integers, 0 or 1 and not up
+/// to 100. Without a maximum it is 0.
 QString CClockProgress::text() const
 {
     if (m_format == Percentage)

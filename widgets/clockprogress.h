@@ -5,9 +5,9 @@
 
 class QTimer;
 
-/// Shows that something is going on: a clock face that turns between start() and stop(), and if
-/// wanted a text over it that tells how far it is. All clocks of a process turn together, each of
-/// them a step further every 100 ms.
+/// Shows that something is going on: a clock face that turns between start() and stop(), and
+/// optionally a text over it that tells how far it is. All clocks of a process turn together, one
+/// step every 100 ms.
 class CWIDGET_EXPORT CClockProgress : public CWidget
 {
     Q_OBJECT

@@ -64,7 +64,7 @@ void CDialog::setBorderWidth(int width)
     update();
 }
 
-/// The colour of the border; invalid, the default, means that of the ground.
+/// The colour of the border; invalid, the default, means that of the background.
 QColor CDialog::getBorderColor() const
 {
     return m_borderColor;
@@ -77,13 +77,13 @@ void CDialog::setBorderColor(const QColor& color)
     update();
 }
 
-/// The colour of the ground; invalid, the default, when there is none.
+/// The colour of the background; invalid, the default, when there is none.
 QColor CDialog::getBackgroundColor() const
 {
     return m_backgroundColor;
 }
 
-/// Sets the colour of the ground and repaints.
+/// Sets the colour of the background and repaints.
 void CDialog::setBackgroundColor(const QColor& color)
 {
     m_backgroundColor = color;

@@ -6,7 +6,7 @@
 #include <QColor>
 #include <QDialog>
 
-/// A dialog with a ground of a colour and a border, the base of an application's own dialogs.
+/// A dialog with a background of a colour and a border, the base of an application's own dialogs.
 class CWIDGET_EXPORT CDialog : public QDialog
 {
     Q_OBJECT

@@ -5,13 +5,13 @@
 
 #include <QPainter>
 
-/// A view with a lavender ground and, once it gets a width, a white border. It updates the whole
-/// viewport, as the border stays where it is while the scene scrolls.
+/// A view with a lavender background and, once it gets a width, a white border. It updates the
+/// whole viewport, as the border stays where it is while the scene scrolls.
 CGraphicsView::CGraphicsView(QWidget* parent)
     : QGraphicsView(parent),
       m_borderWidth(0),
       m_borderColor(Qt::white),
-      m_backgroundColor(CWidgetStyle::getColor(CWidgetStyle::ContainerGroundColor))
+      m_backgroundColor(CWidgetStyle::getColor(CWidgetStyle::ContainerBackgroundColor))
 {
     setViewportUpdateMode(FullViewportUpdate);
 }
@@ -48,7 +48,7 @@ QColor CGraphicsView::getBorderColor() const
     return m_borderColor;
 }
 
-/// Sets the colour of the border and repaints; an invalid one means the colour of the ground.
+/// Sets the colour of the border and repaints; an invalid one means the colour of the background.
 void CGraphicsView::setBorderColor(const QColor& color)
 {
     m_borderColor = color;
@@ -56,13 +56,13 @@ void CGraphicsView::setBorderColor(const QColor& color)
     update();
 }
 
-/// The colour of the ground, lavender by default.
+/// The colour of the background, lavender by default.
 QColor CGraphicsView::getBackgroundColor() const
 {
     return m_backgroundColor;
 }
 
-/// Sets the colour of the ground and repaints; an invalid one draws none.
+/// Sets the colour of the background and repaints; an invalid one draws none.
 void CGraphicsView::setBackgroundColor(const QColor& color)
 {
     m_backgroundColor = color;

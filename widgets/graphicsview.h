@@ -6,7 +6,7 @@
 #include <QColor>
 #include <QGraphicsView>
 
-/// A graphics view with a ground of a colour and a border, both under the scene.
+/// A graphics view with a background of a colour and a border, both under the scene.
 class CWIDGET_EXPORT CGraphicsView : public QGraphicsView
 {
     Q_OBJECT

@@ -18,8 +18,8 @@ const int wrappedLineHeight = 20;
 
 } // namespace
 
-/// An empty label of 28 pixels height on a lavender ground; its font is that of the style file's
-/// entry "CLabel".
+/// An empty label of 28 pixels height on a lavender background; its font is that of the style
+/// file's entry "CLabel".
 CLabel::CLabel(QWidget* parent)
     : CWidget(parent),
       m_textSize(defaultTextSize),
@@ -33,7 +33,7 @@ CLabel::CLabel(QWidget* parent)
 {
     setHeight(metrics::controlHeight);
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CLabel"), 0));
-    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::ControlGroundColor));
+    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::ControlBackgroundColor));
 }
 
 CLabel::~CLabel()
@@ -64,8 +64,8 @@ QString CLabel::cornerText() const
     return m_cornerText;
 }
 
-/// Sets the text that is drawn over the main one, right-aligned and vertically centred. Unlike the
-/// other setters this one does not repaint, wanted so: the text shows with the next repaint.
+/// Sets the text that is drawn over the main one, right-aligned and vertically centred. Deliberate:
+/// unlike the other setters this one does not repaint; the text shows with the next repaint.
 void CLabel::setCornerText(const QString& text)
 {
     m_cornerText = text;

@@ -5,7 +5,7 @@
 
 class QPainter;
 
-/// A text, wrapped character by character if wanted, and a second one in the right corner, for
+/// A text, wrapped character by character on request, and a second one in the right corner, for
 /// example a unit. A finger lifted from the label is a click.
 class CWIDGET_EXPORT CLabel : public CWidget
 {

@@ -74,8 +74,8 @@ void CLineEdit::setRange(int min, int max)
     m_maximum = max;
 }
 
-/// Stores the bounds and gives the keypad a range: wanted, the integer one, which is from 0 to 0
-/// until it is set. The text bounds are kept and used nowhere.
+/// Stores the bounds and gives the keypad a range. Deliberate: that is the integer one, from 0 to 0
+/// until it is set; the text bounds are kept and used nowhere.
 void CLineEdit::setRange(const QString& min, const QString& max)
 {
     m_rangeEnabled = true;
@@ -188,7 +188,7 @@ QString CLineEdit::askKeyPad()
     return CKeyPadFactory::accessKeyPad(m_title, text(), m_skpType, this);
 }
 
-/// Paints Qt's line edit, and if wanted a frame of one pixel.
+/// Paints Qt's line edit and, unless it is switched off, a frame of one pixel.
 void CLineEdit::paintEvent(QPaintEvent* event)
 {
     QLineEdit::paintEvent(event);

@@ -39,8 +39,8 @@ QRect borderRect(const QSize& size, int borderWidth)
                  size.height() - borderWidth);
 }
 
-/// Fills \a rect, which is all of a widget, with \a color; an invalid colour draws nothing. Of a
-/// colour that something shines through, the outline is blended twice, wanted so.
+/// Fills \a rect, which is all of a widget, with \a color; an invalid colour draws nothing.
+/// Deliberate: the outline of a translucent colour is blended twice, by the brush and by the pen.
 void drawFill(QPainter* painter, const QRect& rect, const QColor& color)
 {
     if (!color.isValid())

@@ -170,8 +170,8 @@ QRect CProgressBar::getProgressRect() const
                  QPoint(static_cast<int>(qMin(right, rightmost)), start - m_inset + height() - 1));
 }
 
-/// The colour of the filled part. It compares the value itself with fractions of the length of the
-/// range, wanted so: a range that does not start at 0 turns green early.
+/// The colour of the filled part. Deliberate: the value itself is compared with fractions of the
+/// length of the range, so that one that does not start at 0 turns green early.
 QColor CProgressBar::getCurrentColor() const
 {
     if (!m_gradientEnabled)

@@ -62,8 +62,8 @@ void drawSmoothly(QPainter* painter, const QRect& rect, const QPixmap& pixmap)
 
 } // namespace
 
-/// A button of 120 x 40 pixels on a violet ground, without text and pictures, that takes no focus;
-/// its font is that of the style file's entry "CPushButton".
+/// A button of 120 x 40 pixels on a violet background, without text and pictures, that takes no
+/// focus; its font is that of the style file's entry "CPushButton".
 CPushButton::CPushButton(QWidget* parent)
     : QPushButton(parent),
       m_selected(false),
@@ -148,13 +148,13 @@ void CPushButton::setBorderColor(const QColor& color)
     update();
 }
 
-/// The colour of the ground; invalid when there is none.
+/// The colour of the background; invalid when there is none.
 QColor CPushButton::getBackgroundColor() const
 {
     return m_backgroundColor;
 }
 
-/// Sets the colour of the ground and repaints.
+/// Sets the colour of the background and repaints.
 void CPushButton::setBackgroundColor(const QColor& color)
 {
     m_backgroundColor = color;
@@ -239,8 +239,8 @@ bool CPushButton::isSelected() const
     return m_selected;
 }
 
-/// Selects the button or not and brings up the selected or the released look. A click afterwards
-/// leaves the released look, wanted so, although the button stays selected.
+/// Selects the button or not and brings up the selected or the released look. Deliberate: a click
+/// afterwards leaves the released look although the button stays selected.
 void CPushButton::setSelected(bool selected)
 {
     m_selected = selected;

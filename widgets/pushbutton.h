@@ -13,8 +13,8 @@
 class QPainter;
 class ShapedText;
 
-/// The touch button: a ground of a colour, a border, a picture that fills it, an icon and a text.
-/// For each of its states it may have a picture and a text colour, which the state brings up.
+/// The touch button: a background of a colour, a border, a picture that fills it, an icon and a
+/// text. For each of its states it may have a picture and a text colour, which the state brings up.
 ///
 /// The text that it shows is its own: setText() and getText() reach it through a pointer of this
 /// class, and so does the property "text". That of Qt's button, which QPushButton::text() returns

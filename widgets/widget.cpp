@@ -133,24 +133,24 @@ void CWidget::updateWidgetStyle()
     const WidgetStyle style =
         CWidgetStyle::getWidgetStyle(QLatin1String(metaObject()->className()), &found);
     if (found)
-        CWidget::setWidgetStyle(style); // wanted: the base's, so only the font changes
+        CWidget::setWidgetStyle(style); // Deliberate: the base's; only the font changes
     forEachChildWidget(this, &CWidget::updateWidgetStyle);
 }
 
-/// The colour of the ground; invalid, the default, when there is none.
+/// The colour of the background; invalid, the default, when there is none.
 QColor CWidget::getBackgroundColor() const
 {
     return m_backgroundColor;
 }
 
-/// Sets the colour of the ground and repaints. Its alpha lets the parent shine through.
+/// Sets the colour of the background and repaints. Its alpha lets the parent shine through.
 void CWidget::setBackgroundColor(const QColor& color)
 {
     m_backgroundColor = color;
     update();
 }
 
-/// The colour of the border; invalid, the default, means that of the ground.
+/// The colour of the border; invalid, the default, means that of the background.
 QColor CWidget::getBorderColor() const
 {
     return m_borderColor;
@@ -163,7 +163,7 @@ void CWidget::setBorderColor(const QColor& color)
     update();
 }
 
-/// The picture on the ground; null by default.
+/// The picture on the background; null by default.
 QPixmap CWidget::getBackground() const
 {
     return m_background;
@@ -189,7 +189,7 @@ void CWidget::setBorderWidth(int width)
     update();
 }
 
-/// Sets the alpha of the ground's colour, from 0 (nothing of it is seen) to 255 (opaque), and
+/// Sets the alpha of the background's colour, from 0 (nothing of it is seen) to 255 (opaque), and
 /// repaints. Other values are ignored.
 void CWidget::setTransparency(int alpha)
 {

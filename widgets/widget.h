@@ -10,9 +10,9 @@
 
 class QPainter;
 
-/// The themed base of most widgets of the library: a ground of a colour, a picture and a border,
-/// a set of virtual operations that containers call on their children, styling from the style file,
-/// and, if wanted, management as one of the screens of the widget stack.
+/// The themed base of most widgets of the library: a background of a colour, a picture and a
+/// border, a set of virtual operations that containers call on their children, styling from the
+/// style file, and, optionally, management as one of the screens of the widget stack.
 class CWIDGET_EXPORT CWidget : public QWidget
 {
     Q_OBJECT

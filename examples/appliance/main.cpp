@@ -235,7 +235,7 @@ void Appliance::keep(const QString& key, const QString& value)
 QVBoxLayout* Appliance::addPage(const char* title)
 {
     CWidget* const page = new CWidget;
-    page->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::ContainerGroundColor));
+    page->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::ContainerBackgroundColor));
     QVBoxLayout* const column = new QVBoxLayout(page);
     column->setContentsMargins(margin, 10, margin, 10);
     column->setSpacing(10);

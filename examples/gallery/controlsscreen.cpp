@@ -123,7 +123,7 @@ void ControlsScreen::addStates(int y)
     CPushButton* bordered = new CPushButton(this);
     bordered->setText(QLatin1String("Border"));
     bordered->setBackgroundColor(Qt::white);
-    bordered->setBorderColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
+    bordered->setBorderColor(CWidgetStyle::getColor(CWidgetStyle::PanelBackgroundColor));
     bordered->move(corner(4, y));
 }
 

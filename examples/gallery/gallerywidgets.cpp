@@ -37,7 +37,7 @@ QPixmap tinted(QPixmap pixmap, const QColor& color)
 Heading::Heading(const QString& text, QWidget* parent) : CLabel(parent)
 {
     setText(text);
-    setTextColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
+    setTextColor(CWidgetStyle::getColor(CWidgetStyle::PanelBackgroundColor));
     setBackgroundColor(QColor());
     Heading::updateWidgetStyle();
 }

@@ -60,8 +60,8 @@ void ProgressScreen::addLevels(int y)
     }
     CProgressBar* plain = new CProgressBar(this);
     plain->setGradientEabled(false);
-    plain->setProgressColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
-    plain->setBorderColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
+    plain->setProgressColor(CWidgetStyle::getColor(CWidgetStyle::PanelBackgroundColor));
+    plain->setBorderColor(CWidgetStyle::getColor(CWidgetStyle::PanelBackgroundColor));
     plain->setValue(64);
     plain->move(left + barPitch, y + 2 * barHeight);
 }

@@ -59,7 +59,7 @@ private:
 
 Chooser::Chooser() : m_pages(new CPageWidget), m_choice(new CLabel), m_chosen(0)
 {
-    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
+    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelBackgroundColor));
     m_pages->setSize(chooserWidth, chooserHeight);
     for (int first = 0; first < programCount; first += pageSize)
         m_pages->addPage(createPage(first));

@@ -64,7 +64,7 @@ SettingsPage::SettingsPage()
       m_sensor(new CParmCheckBox(QLatin1String("Window sensor"), QLatin1String("attached"))),
       m_report(new CLabel)
 {
-    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
+    setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelBackgroundColor));
     m_temperature->setWidth(rowWidth, Proportion1To1);
     m_setPoint->setWidth(rowWidth, Proportion1To1);
     m_setPoint->setSKPType(CKeyPadFactory::SKP_DECIMAL);

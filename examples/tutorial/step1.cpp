@@ -12,7 +12,7 @@ int main(int argc, char** argv)
     CWidgetStyle::initialize(application.arguments().value(1)); // before the first widget
 
     CWidget panel;
-    panel.setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
+    panel.setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelBackgroundColor));
     CPushButton* start = new CPushButton;
     start->setStyle(CPushButton::GreenStyle, true);
     start->setText("Start");

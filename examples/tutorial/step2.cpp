@@ -14,7 +14,7 @@ int main(int argc, char** argv)
     CWidgetStyle::initialize(application.arguments().value(1));
 
     CWidget panel;
-    panel.setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
+    panel.setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelBackgroundColor));
     CLabel* status = new CLabel;
     status->setText("Pump 1");
     status->setCornerText("21.4");

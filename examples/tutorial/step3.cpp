@@ -16,7 +16,7 @@ class Panel : public CWidget
 public:
     Panel() : m_status(new CLabel)
     {
-        setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
+        setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelBackgroundColor));
         CParmLineEdit* setPoint = new CParmLineEdit("Set point", "22");
         setPoint->setSKPType(CKeyPadFactory::SKP_DECIMAL);
         setPoint->setRange(5, 30);

@@ -37,7 +37,7 @@ struct PictureGroup {
     int count;
 };
 
-// Draws all cells of a picture, each clipped to its own cell, on a transparent ground.
+// Draws all cells of a picture, each clipped to its own cell, on a transparent background.
 QImage render(const Picture& picture);
 
 // Width and height of one cell, px.

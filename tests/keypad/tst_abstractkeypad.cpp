@@ -20,7 +20,8 @@ void tst_abstractkeypad::newGridIsBlackAndFixed()
     CAbstractKeyPad grid(&parent);
     QCOMPARE(grid.parent(), static_cast<QObject*>(&parent));
     QCOMPARE(grid.getBackgroundColor(), QColor(Qt::black));
-    QCOMPARE(grid.getBackgroundColor(), CWidgetStyle::getColor(CWidgetStyle::KeyPadGroundColor));
+    QCOMPARE(grid.getBackgroundColor(),
+             CWidgetStyle::getColor(CWidgetStyle::KeyPadBackgroundColor));
     QCOMPARE(grid.size(), QSize(560, 390));
     QCOMPARE(grid.minimumSize(), QSize(560, 390));
     QCOMPARE(grid.maximumSize(), QSize(560, 390));

@@ -202,7 +202,7 @@ void tst_pagewidget::sizesBelowTheBarAreHarmless()
 void tst_pagewidget::groundReachesTheBar()
 {
     CPageWidget pages;
-    const QColor ground = CWidgetStyle::getColor(CWidgetStyle::ContainerGroundColor);
+    const QColor ground = CWidgetStyle::getColor(CWidgetStyle::ContainerBackgroundColor);
     QCOMPARE(pages.getBackgroundColor(), ground);
     QCOMPARE(barOf(pages)->getBackgroundColor(), ground);
     pages.setBackgroundColor(Qt::green);

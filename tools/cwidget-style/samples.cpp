@@ -50,7 +50,7 @@ QWidget* widget()
 {
     CWidget* const sample = new CWidget;
     sample->setSize(200, 100);
-    sample->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
+    sample->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelBackgroundColor));
     sample->setBorderColor(Qt::black);
     sample->setBorderWidth(2);
     return sample;
@@ -60,7 +60,7 @@ QWidget* dialog()
 {
     CDialog* const sample = new CDialog;
     sample->setSize(200, 100);
-    sample->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::ContainerGroundColor));
+    sample->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::ContainerBackgroundColor));
     sample->setBorderColor(Qt::black);
     sample->setBorderWidth(2);
     return sample;
@@ -135,7 +135,7 @@ QWidget* clockProgress()
     sample->setRange(0, 11);
     sample->setValue(4);
     sample->setFormat(1);
-    sample->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
+    sample->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelBackgroundColor));
     return sample;
 }
 
@@ -227,7 +227,7 @@ QWidget* parmCheckBox()
 {
     CParmCheckBox* const sample = new CParmCheckBox(latin1("Window sensor"), latin1("attached"));
     sample->setWidth(rowWidth);
-    sample->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelGroundColor));
+    sample->setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelBackgroundColor));
     sample->setCheckState(Qt::Checked);
     return sample;
 }
