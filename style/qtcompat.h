@@ -69,6 +69,13 @@ inline int charWidth(const QFontMetrics& metrics, QChar ch)
 #endif
 }
 
+/// Whether glyphs are drawn at the very pixels where text is that consists of them. On Qt 4 this is
+/// not known.
+inline bool placesGlyphs()
+{
+    return QT_VERSION >= QT_VERSION_CHECK(5, 0, 0);
+}
+
 /// The colour called \a name, or written with a hash sign; invalid, and no warning, for other
 /// texts.
 inline QColor namedColor(const QString& name)

@@ -80,6 +80,16 @@ inline int textWidth(const QFontMetrics& metrics, const QString& text)
 #endif
 }
 
+/// The advance of the single character \a ch in pixels.
+inline int charWidth(const QFontMetrics& metrics, QChar ch)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
+    return metrics.horizontalAdvance(ch);
+#else
+    return metrics.width(ch);
+#endif
+}
+
 /// All widgets there are but the desktop, which Qt 4 counts among them.
 inline QWidgetList allWidgets()
 {

@@ -19,7 +19,7 @@ bool isSeparator(QChar ch)
 /// Draws with the pen and the font of \a painter. A line may be as wide as \a area reaches from its
 /// left to its right edge; the first one stands 5 pixels below its top.
 CharacterLayout::CharacterLayout(QPainter* painter, const QRect& area, int lineHeight)
-    : m_painter(painter),
+    : m_text(painter, lineHeight),
       m_metrics(painter->font()),
       m_area(area),
       m_lineHeight(lineHeight),
@@ -79,29 +79,30 @@ bool CharacterLayout::startLine()
     return m_y <= m_area.bottom();
 }
 
-/// The advance of \a ch, which is measured once.
 int CharacterLayout::widthOf(QChar ch)
 {
-    QHash<QChar, int>::const_iterator found = m_widths.constFind(ch);
-    if (found == m_widths.constEnd())
-        found = m_widths.insert(ch, qtcompat::charWidth(m_metrics, ch));
-    return found.value();
+    return m_text.widthOf(ch);
 }
 
 void CharacterLayout::draw(QChar ch)
 {
     const int width = widthOf(ch);
-    m_painter->drawText(QRect(m_x, m_y, width, m_lineHeight), Qt::AlignCenter, QString(ch));
+    m_text.draw(ch, QPoint(m_x, m_y));
     m_x += width;
     m_lineWidth += width;
 }
 
-int CharacterLayout::widthOfWordAfter(const QString& text, int separator) const
+/// Words come again as well as letters; each is measured once.
+int CharacterLayout::widthOfWordAfter(const QString& text, int separator)
 {
     int end = separator + 1;
     while (end < text.size() && !isSeparator(text.at(end)))
         ++end;
-    return qtcompat::textWidth(m_metrics, text.mid(separator + 1, end - separator - 1));
+    const QString word = text.mid(separator + 1, end - separator - 1);
+    QHash<QString, int>::const_iterator found = m_wordWidths.constFind(word);
+    if (found == m_wordWidths.constEnd())
+        found = m_wordWidths.insert(word, qtcompat::textWidth(m_metrics, word));
+    return found.value();
 }
 
 /// The nearest separator at or before \a from, or -1 when the line, counted down by the width of

@@ -1,6 +1,8 @@
 #ifndef CWIDGET_WIDGETS_CHARACTERLAYOUT_P_H
 #define CWIDGET_WIDGETS_CHARACTERLAYOUT_P_H
 
+#include "widgets/celltext_p.h"
+
 #include <QFontMetrics>
 #include <QHash>
 #include <QRect>
@@ -23,17 +25,17 @@ private:
     bool startLine();
     int widthOf(QChar ch);
     void draw(QChar ch);
-    int widthOfWordAfter(const QString& text, int separator) const;
+    int widthOfWordAfter(const QString& text, int separator);
     int lookBack(const QString& text, int from);
 
-    QPainter* m_painter;
+    CellText m_text;
     QFontMetrics m_metrics;
     QRect m_area;
     int m_lineHeight;
     int m_x;
     int m_y;
     int m_lineWidth;
-    QHash<QChar, int> m_widths;
+    QHash<QString, int> m_wordWidths;
 };
 
 #endif

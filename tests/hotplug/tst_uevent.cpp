@@ -1,8 +1,11 @@
 #include "hotplug/uevent_p.h"
 
 #include "hotplug/hotplugtesting.h"
+#include "support/random.h"
 
 #include <QBuffer>
+
+using testing::Random;
 
 namespace
 {
@@ -68,24 +71,6 @@ QByteArray joinedByHand(const QByteArray& datagram)
     }
     return result;
 }
-
-/// A generator of its own, so that every machine and every version of Qt sees the same numbers.
-class Random
-{
-public:
-    explicit Random(quint32 seed) : m_state(seed)
-    {
-    }
-
-    int below(int bound)
-    {
-        m_state = m_state * 1664525u + 1013904223u;
-        return static_cast<int>((m_state >> 8) % static_cast<quint32>(bound));
-    }
-
-private:
-    quint32 m_state;
-};
 
 void mutate(QByteArray* bytes, Random* random)
 {

@@ -3,9 +3,12 @@
 #include "keypad/abstractkeypad.h"
 #include "keypad/keypadedit.h"
 #include "support/keypadmodel.h"
+#include "support/random.h"
 
 #include <QSignalSpy>
 #include <QTextCursor>
+
+using testing::Random;
 
 namespace
 {
@@ -14,24 +17,6 @@ const int sequences = 10000;
 const int sequencesPerKeypad = 250;
 const int longestSequence = 8;
 const int longestText = 25; // less than a line of the entry field
-
-/// A generator of our own: the same numbers with every library and on every machine.
-class Random
-{
-public:
-    explicit Random(quint32 seed) : m_state(seed)
-    {
-    }
-
-    int below(int limit)
-    {
-        m_state = m_state * 1664525u + 1013904223u;
-        return static_cast<int>((m_state >> 8) % static_cast<quint32>(limit));
-    }
-
-private:
-    quint32 m_state;
-};
 
 /// A keypad with its models.
 class Session
