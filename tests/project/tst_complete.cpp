@@ -330,6 +330,7 @@ const struct Exception {
     {"test", "style/filerewrite.cpp",             "tst_widgetstyle_rewrite and tst_widgetstyle_replace see each of its steps"},
     {"test", "style/keptpictures.cpp",            "tst_cost counts how often a picture is cut"},
     {"test", "style/xmlpiece.cpp",                "a part of xmlguard: tst_xmlguard"},
+    {"test", "widgets/celltext.cpp",              "a part of the label: tst_label_pixels"},
     {"test", "widgets/characterlayout.cpp",       "a part of the label: tst_label_wrapping"},
     {"test", "widgets/heldupdates.cpp",           "tst_cost counts the repaints of a touch"},
     {"test", "widgets/painting.cpp",              "in the painted expectations of all classes that use it"},
