@@ -61,7 +61,7 @@ check_static() {
     export PKG_CONFIG_PATH=$libdir/pkgconfig
     # shellcheck disable=SC2046
     "$cxx" -std=c++"$standard" "$consumer/main.cpp" -o "$stage/by-pkg-config" \
-        $(pkg-config --cflags --libs "$name")
+        $(pkg-config --cflags --libs --static "$name")
     "$stage/by-pkg-config" "$(pkg-config --variable=stylefile "$name")"
     if readelf -d "$stage/by-pkg-config" | grep -F "$name"; then
         echo "the consumer needs a shared library" >&2
