@@ -1,24 +1,68 @@
 #!/usr/bin/env bash
-# readme.sh SOURCE: runs the commands of README.md, to the letter, in a clean copy of the tree. Left
-# out is ./test.sh, of which this is a part. What is installed goes to a folder of its own.
+# readme.sh SOURCE: runs the commands of README.md, to the letter, in a clean copy of the tree, and
+# those of its section "Use" in a folder with the program that stands there. Left out is ./test.sh,
+# of which this is a part. In a mount namespace, whose /opt is a folder of this test.
 set -euo pipefail
 source=$1
 
-work=$(mktemp -d)
-trap 'rm -rf "$work"' EXIT
-mkdir "$work/tree"
-tar -C "$source" --exclude=./build --exclude=./.git -cf - . | tar -C "$work/tree" -xf -
-cd "$work/tree"
-unset QT_QPA_PLATFORM DISPLAY WAYLAND_DISPLAY FONTCONFIG_FILE
-export DESTDIR=$work/stage
+if [ -z "${README_WORK:-}" ]; then
+    README_WORK=$(mktemp -d)
+    export README_WORK
+    trap 'rm -rf "$README_WORK"' EXIT
+    namespace=(unshare --mount)
+    if [ "$(id -u)" -ne 0 ]; then namespace+=(--map-root-user); fi
+    if ! "${namespace[@]}" true 2>"$README_WORK/log"; then
+        echo "SKIP: there is no mount namespace for /opt: $(tail -n 1 "$README_WORK/log")"
+        exit 77
+    fi
+    "${namespace[@]}" "$0" "$source"
+    exit
+fi
 
-awk '/^```sh$/ { inside = 1; next } /^```$/ { inside = 0 } inside' README.md |
-    grep -v '^\./test\.sh' >commands
+mkdir "$README_WORK"/{opt,tree,application}
+mkdir -m 700 "$README_WORK/application/runtime"
+mount --bind "$README_WORK/opt" /opt
+unset QT_QPA_PLATFORM DISPLAY WAYLAND_DISPLAY FONTCONFIG_FILE
+
+# blocks LANGUAGE: what README.md marks as that, on standard input.
+blocks() {
+    awk -v fence="^\`\`\`$1\$" '$0 ~ fence { inside = 1; next } /^```$/ { inside = 0 } inside'
+}
+
+# run FILE: the commands in it.
+run() {
+    bash -eux "$1" >log 2>&1 || { tail -n 40 log; exit 1; }
+}
+
+echo "== install"
+tar -C "$source" --exclude=./build --exclude=./.git -cf - . | tar -C "$README_WORK/tree" -xf -
+cd "$README_WORK/tree"
+sed '/^## Use$/,$d' README.md | blocks sh | grep -v '^\./test\.sh' >commands
 test "$(grep -c . commands)" -ge 4
-bash -eux commands >log 2>&1 || { tail -n 40 log; exit 1; }
+run commands
 
 test -s build/shots/controls.png
-test -s "$DESTDIR/opt/panel/share/quorlin-cwidget/widget-style.xml"
-test -n "$(find "$DESTDIR/opt/panel" -name libquorlin-cwidget.so.1)"
-test -x "$DESTDIR/opt/panel/bin/cwidget-style"
+test -s /opt/panel/share/quorlin-cwidget/widget-style.xml
+test -f /opt/panel/lib/libquorlin-cwidget.so.1
+test -x /opt/panel/bin/cwidget-style
+
+echo "== use"
+cd "$README_WORK/application"
+sed -n '/^## Use$/,/^## Read/p' "$source/README.md" >page
+blocks cpp <page >main.cpp
+blocks cmake <page >CMakeLists.txt
+blocks sh <page >commands
+# A panel runs until it is closed: that it still runs, and says nothing, is what is wanted of it.
+cat >>commands <<'END'
+export QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=$PWD/runtime
+for program in "env -u LD_LIBRARY_PATH build/panel" ./panel; do
+    status=0
+    timeout 2 $program >said 2>&1 || status=$?
+    test $status -eq 124
+    test ! -s said || { cat said; exit 1; }
+done
+END
+test "$(grep -c . commands)" -ge 10
+run commands
+grep -q /opt/panel/share/quorlin-cwidget/widget-style.xml panel
 echo "ok"

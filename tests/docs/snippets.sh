@@ -13,7 +13,7 @@ for class in "$build"/forwarding/*; do echo "#include <$(basename "$class")>"; d
 
 read -ra flags < <(pkg-config --cflags "$modules")
 flags+=(-std=c++"$standard" -fPIC -fsyntax-only -Wall -Wextra -Werror -Wno-unused-variable
-    -Wno-unused-but-set-variable -I"$work" -I"$source" -I"$build/forwarding" -I"$source/tests/docs")
+    -Wno-unused-but-set-variable -DSTYLE_FILE='"widget-style.xml"' -I"$work" -I"$source" -I"$build/forwarding" -I"$source/tests/docs")
 
 # All blocks without an include share a source, a function each.
 total=0
