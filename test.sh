@@ -72,7 +72,8 @@ if [ -n "$fuzz" ]; then cwidget_install clang-14 libclang-rt-14-dev llvm-14; fi
 if [ -n "$device" ]; then
     # shellcheck disable=SC2086
     if ! trouble=$(cwidget_install $device_packages 2>&1 &&
-        tests/device/fetchkernel.sh build/device/kernel 2>&1); then
+        tests/device/fetchkernel.sh build/device/kernel 2>&1 &&
+        qemu-system-x86_64 --version 2>&1); then
         echo "The device is not tested: no virtual machine here ($(echo "$trouble" | tail -n 1))"
         exit 0
     fi

@@ -61,6 +61,17 @@ check 2 "--sanitize" ./test.sh --no-such-option
 check 0 "$skipped" ./test.sh -- -R label
 check_calls "-R label"
 
+# Without a kernel to be had, and with one but without a virtual machine that runs.
+no_device="The device is not tested: no virtual machine here"
+kernel=$stage/tests/device/fetchkernel.sh
+printf '#!/bin/sh\necho "apt knows no kernel package"; exit 1\n' >"$kernel"
+chmod +x "$kernel"
+check 0 "$no_device (apt knows no kernel package)" ./test.sh --device
+printf '#!/bin/sh\n' >"$kernel"
+check 0 "$no_device (the machine does not run here)" ./test.sh --device
+if [ -s "$STUB_LOG" ]; then complain "something is built for a device that is not there"; fi
+rm "$kernel"
+
 check 0 "checkdebian.sh $stage" ./test.sh --packages
 check fails "" STUB_FAILS=package.sh ./test.sh --packages
 if grep -q checkdebian "$stage/output"; then complain "packages that were not built are checked"; fi
