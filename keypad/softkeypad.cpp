@@ -85,8 +85,9 @@ bool CSoftKeyPad::initialize()
 void CSoftKeyPad::setSize(int width, int height)
 {
     setFixedSize(width, height);
-    m_edit->setFixedSize(width - sideMargins, editHeight);
-    m_grid->setSize(width - sideMargins, height);
+    const int inner = qMax(sideMargins, width) - sideMargins;
+    m_edit->setFixedSize(inner, editHeight);
+    m_grid->setSize(inner, height);
     keepKeysInside();
 }
 

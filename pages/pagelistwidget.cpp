@@ -212,14 +212,16 @@ void CPageListWidget::setSize(int width, int height)
     CWidget::setSize(width, height);
     m_header->setSize(width, headerHeight);
     m_pageBar->setSize(width, metrics::pageBarHeight);
-    m_itemArea->setSize(width, qMax(0, height - headerHeight - metrics::pageBarHeight));
+    const int besideRows = headerHeight + metrics::pageBarHeight;
+    m_itemArea->setSize(width, qMax(besideRows, height) - besideRows);
     adjustHeight();
 }
 
 /// Gives the list its full height, or that without the page bar while this is not on screen.
 void CPageListWidget::adjustHeight()
 {
-    setHeight(m_pageBar->isVisible() ? m_height : qMax(0, m_height - m_pageBar->height()));
+    setHeight(m_pageBar->isVisible() ? m_height
+                                     : qMax(m_pageBar->height(), m_height) - m_pageBar->height());
 }
 
 /// Has the page bar count the pages that the entries need which take part in paging.

@@ -195,7 +195,7 @@ void CPageWidget::setCurrentPage(int index)
 void CPageWidget::setSize(int width, int height)
 {
     CWidget::setSize(width, height);
-    m_stack->setFixedSize(width, qMax(0, height - metrics::pageBarHeight));
+    m_stack->setFixedSize(width, qMax(metrics::pageBarHeight, height) - metrics::pageBarHeight);
     m_pageBar->setSize(width, metrics::pageBarHeight);
 }
 

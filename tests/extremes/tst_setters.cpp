@@ -6,8 +6,8 @@
 #include "widgets/widgetstack.h"
 
 #include <QDir>
+#include <QPointer>
 #include <QRegularExpression>
-#include <QScopedPointer>
 #include <random>
 
 using extremes::Call;
@@ -101,26 +101,36 @@ void paint(QObject* object)
     widget->render(&image, QPoint(), part);
 }
 
-/// A sample that leaves the widget stack before it dies, as every managed widget is to.
+/// A sample that leaves the widget stack before it dies, as every managed widget is to. Pages that
+/// it has given back die with it.
 class Sample
 {
 public:
     explicit Sample(const QString& name) : m_widget(samples::create(name))
     {
+        const QList<QWidget*> parts = m_widget->findChildren<QWidget*>();
+        for (int i = 0; i < parts.size(); ++i)
+            m_parts.append(parts.at(i));
     }
 
     ~Sample()
     {
         KQWidgetStack::instance()->popAll();
+        delete m_widget;
+        for (int i = 0; i < m_parts.size(); ++i)
+            delete m_parts.at(i).data();
     }
 
     QWidget* widget() const
     {
-        return m_widget.data();
+        return m_widget;
     }
 
 private:
-    const QScopedPointer<QWidget> m_widget;
+    QWidget* const m_widget;
+    QList<QPointer<QWidget>> m_parts;
+
+    Q_DISABLE_COPY(Sample)
 };
 
 void settle()
