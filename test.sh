@@ -6,6 +6,7 @@
 #   ./test.sh --sanitize       with the Address, UndefinedBehavior and Leak sanitizers
 #   ./test.sh --threads        the tests with several threads, with the Thread sanitizer (Qt 5)
 #   ./test.sh --clang          builds the library and the examples with Clang, and runs nothing
+#   ./test.sh --coverage       and says how much of the library the tests run; 98 % of the lines must be
 #   ./test.sh --bench          the benchmarks
 #   ./test.sh --packages       builds the Debian packages, and uses them in a fresh system
 #   ./test.sh --device         the gallery on the frame buffer of a virtual machine, touched and plugged
@@ -22,6 +23,7 @@ sanitize=OFF
 threads=OFF
 clang=
 bench=
+coverage=
 fuzz=
 packages=
 device=
@@ -31,6 +33,7 @@ while [ $# -gt 0 ]; do
         --sanitize) sanitize=ON; shift ;;
         --threads) threads=ON; shift ;;
         --clang) clang=1; shift ;;
+        --coverage) coverage=1; shift ;;
         --bench) bench=1; shift ;;
         --packages) packages=1; shift ;;
         --device) device=1; shift ;;
@@ -66,6 +69,7 @@ test_packages+=" doxygen qttools5-dev-tools abigail-tools xz-utils"
 cwidget_install $(cwidget_build_packages "$qt") $(cwidget_run_packages "$qt") \
     $(cwidget_designer_packages "$qt") $test_packages
 if [ -n "$bench" ]; then cwidget_install libbenchmark-dev; fi
+if [ -n "$coverage" ]; then cwidget_install gcovr; fi
 if [ -n "$clang" ]; then cwidget_install clang-14; fi
 if [ -n "$fuzz" ]; then cwidget_install clang-14 libclang-rt-14-dev llvm-14; fi
 
@@ -91,6 +95,10 @@ elif [ "$threads" = ON ]; then
     options+=(-DCMAKE_BUILD_TYPE=RelWithDebInfo)
     target=threads
     set -- -L threads "$@"
+elif [ -n "$coverage" ]; then
+    build+=-coverage
+    # Built once to be run once.
+    options+=(-DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_FLAGS_RELEASE=-O0 -DCWIDGET_COVERAGE=ON)
 elif [ -n "$clang" ]; then
     build=build/clang-qt$qt
     options+=(-DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_COMPILER=clang++-14 -DBUILD_TESTING=OFF)
@@ -121,7 +129,10 @@ if [ -n "$device" ]; then
 fi
 if [ -n "$bench" ]; then exec cmake --build "$build" --target bench; fi
 
+# Counts of an earlier run, or of sources that have changed since, would add to these.
+if [ -n "$coverage" ]; then find "$build" -name '*.gcda' -delete; fi
 status=0
 (cd "$build" && ctest --output-on-failure -j "$(nproc)" "$@") || status=$?
 tools/skipped.sh "$build/Testing/Temporary/LastTest.log"
+if [ -n "$coverage" ]; then tools/coverage.sh "$build" || status=1; fi
 exit $status

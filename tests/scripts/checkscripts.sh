@@ -58,6 +58,10 @@ check fails "" STUB_FAILS=build ./test.sh --fuzz 0
 check fails "" STUB_FAILS=build ./test.sh --bench
 check_calls "-DCWIDGET_BUILD_BENCHMARKS=ON"
 check 2 "--sanitize" ./test.sh --no-such-option
+check 0 "coverage of the library: 98.2 % of 200 lines, 90.0 % of 50 branches" ./test.sh --coverage
+check_calls "-DCWIDGET_COVERAGE=ON"
+check 1 "coverage: less than 98 % of the lines" STUB_COVERAGE=97.9 ./test.sh --coverage
+check 8 "coverage of the library" STUB_FAILS=ctest ./test.sh --coverage
 check 0 "$skipped" ./test.sh -- -R label
 check_calls "-R label"
 
