@@ -3,6 +3,7 @@
 
 #include "common/netlinkaddress.h"
 #include "gallerywidgets.h"
+#include "monkey.h"
 #include "panel.h"
 #include "shots.h"
 #include "stylefile.h"
@@ -23,15 +24,21 @@ namespace
 
 const char usage[] =
     "usage: quorlin-gallery [--style FILE] [--screen NAME] [--shots DIR]\n"
+    "                       [--monkey STEPS [--seed NUMBER]]\n"
     "                       [--log] [--platform PLATFORM and other options of Qt]\n"
     "\n"
     "  --style FILE    the style file; without it, a copy of the one that comes\n"
     "                  with the library\n"
     "  --screen NAME   the screen to start with: ";
 
-const char usageEnd[] = "  --shots DIR     draw every screen into a picture in DIR, and leave\n"
-                        "  --log           print what the bottom bar says\n"
-                        "  --help          print this, and leave\n";
+const char usageEnd[] =
+    "  --shots DIR     draw every screen into a picture in DIR, and leave\n"
+    "  --monkey STEPS  touch, type, plug and restyle without sense, so many\n"
+    "                  times, and leave; fails when Qt or the library warns of\n"
+    "                  something, or when the panel has grown since the middle\n"
+    "  --seed NUMBER   the same number makes the same steps; 1 by default\n"
+    "  --log           print what the bottom bar says\n"
+    "  --help          print this, and leave\n";
 
 const char noDisplay[] =
     "There is no display. Draw the screens into pictures instead, with --shots DIR, or serve the\n"
@@ -54,6 +61,8 @@ struct Options {
     QString style;
     QString screen;
     QString shots;
+    QString monkey;
+    QString seed;
 };
 
 /// Takes the gallery's own arguments out of \a arguments. Qt must not see them: it has a --style of
@@ -66,6 +75,8 @@ Options takeOptions(QStringList* arguments)
         QString* value = name == QLatin1String("--style")    ? &options.style
                          : name == QLatin1String("--screen") ? &options.screen
                          : name == QLatin1String("--shots")  ? &options.shots
+                         : name == QLatin1String("--monkey") ? &options.monkey
+                         : name == QLatin1String("--seed")   ? &options.seed
                                                              : 0;
         bool* flag = name == QLatin1String("--log")    ? &options.log
                      : name == QLatin1String("--help") ? &options.help
@@ -168,6 +179,15 @@ QString copyOfDefaultStyle()
     return QFile::copy(shippedStyleFile(), copy) ? copy : QString();
 }
 
+int runMonkey(const Options& options, Panel* panel)
+{
+    panel->show();
+    panel->activateWindow();
+    QMetaObject::invokeMethod(panel->screen(QLatin1String("devices")), "watch");
+    const unsigned int seed = options.seed.isEmpty() ? 1 : options.seed.toUInt();
+    return Monkey(panel, options.monkey.toInt(), seed).run() ? 0 : 1;
+}
+
 int run(const Options& options, NetlinkAddress* address)
 {
     const QString copy = options.style.isEmpty() ? copyOfDefaultStyle() : QString();
@@ -179,7 +199,10 @@ int run(const Options& options, NetlinkAddress* address)
     panel.setLogging(options.log);
     panel.showScreen(options.screen.isEmpty() ? Panel::screenNames().first() : options.screen);
     int result = 0;
-    if (options.shots.isEmpty()) {
+    if (!options.monkey.isEmpty()) {
+        address->release();
+        result = runMonkey(options, &panel);
+    } else if (options.shots.isEmpty()) {
         panel.show();
         address->release();
         QTimer::singleShot(0, panel.screen(QLatin1String("devices")), SLOT(watch()));
@@ -210,6 +233,13 @@ int main(int argc, char** argv)
     }
     if (!options.screen.isEmpty() && !Panel::screenNames().contains(options.screen))
         return printMistake("no such screen", options.screen);
+    if (!options.monkey.isEmpty() && options.monkey.toInt() < 2)
+        return printMistake("not a number of steps from 2 up", options.monkey);
+    bool isNumber = options.seed.isEmpty();
+    if (!isNumber)
+        options.seed.toUInt(&isNumber);
+    if (!isNumber)
+        return printMistake("not a number", options.seed);
     if (!choosePlatform(options, words))
         return 1;
     Arguments arguments(words);

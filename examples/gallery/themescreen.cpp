@@ -36,13 +36,21 @@ ThemeScreen::ThemeScreen(Panel* panel) : Screen(QLatin1String("Theme"), panel), 
     addPalette(168);
 }
 
+QStringList ThemeScreen::families()
+{
+    QStringList names;
+    for (size_t i = 0; i < sizeof ::families / sizeof ::families[0]; ++i)
+        names.append(QLatin1String(::families[i].family));
+    return names;
+}
+
 void ThemeScreen::addFamilies(int y)
 {
-    for (size_t i = 0; i < sizeof families / sizeof families[0]; ++i) {
+    for (size_t i = 0; i < sizeof ::families / sizeof ::families[0]; ++i) {
         const QPoint corner(layout::margin + static_cast<int>(i) * layout::buttonPitch, y);
         CPushButton* button =
-            addButton(QLatin1String(families[i].name), CPushButton::DefaultStyle, corner);
-        button->setObjectName(QLatin1String("family-") + QLatin1String(families[i].family));
+            addButton(QLatin1String(::families[i].name), CPushButton::DefaultStyle, corner);
+        button->setObjectName(QLatin1String("family-") + QLatin1String(::families[i].family));
         button->setExtraAttr(CPushButton::SelectedPixmap,
                              CWidgetStyle::getButtonStatus(CWidgetStyle::GreenSelected, true));
         // Lifting the finger shows the released look: the selected one comes after it.
@@ -75,13 +83,13 @@ void ThemeScreen::showCurrent()
     const QList<Style> styles = CWidgetStyle::getWidgetStyle(QLatin1String("CLabel")).styles;
     const QString current = styles.isEmpty() ? QString() : styles.last().font.family();
     for (int i = 0; i < m_families.size(); ++i)
-        m_families.at(i)->setSelected(QLatin1String(families[i].family) == current);
+        m_families.at(i)->setSelected(QLatin1String(::families[i].family) == current);
 }
 
 void ThemeScreen::familyClicked()
 {
     const int index = m_families.indexOf(qobject_cast<CPushButton*>(sender()));
     if (index >= 0)
-        m_panel->restyle(QLatin1String(families[index].family));
+        m_panel->restyle(QLatin1String(::families[index].family));
     showCurrent();
 }

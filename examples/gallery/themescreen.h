@@ -16,6 +16,8 @@ class ThemeScreen : public Screen
 public:
     explicit ThemeScreen(Panel* panel);
 
+    static QStringList families();
+
 private Q_SLOTS:
     void familyClicked();
 

@@ -62,6 +62,10 @@ void tst_gallery_commandline::runs_data()
         {"--platform offscreen --bogus",  2, "", "unknown option: --bogus"},
         {"--screen bogus",                2, "", "no such screen: bogus"},
         {"--style",                       2, "", "--style needs a value"},
+        {"--monkey many",                 2, "", "not a number of steps from 2 up: many"},
+        {"--monkey 1",                    2, "", "not a number of steps from 2 up: 1"},
+        {"--monkey 9 --seed some",        2, "", "not a number: some"},
+        {"--monkey 9",                    1, "", "There is no display."},
         {"--screen lists",                1, "", "There is no display."},
         {"",                              1, "", "There is no display."},
         // clang-format on
