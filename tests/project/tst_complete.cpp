@@ -356,7 +356,6 @@ const struct Exception {
     {"gallery", "CPageListWidgetItemArea",        "in the lists"},
     {"gallery", "CDialog",                        "an empty frame until an application fills it"},
     {"gallery", "CGraphicsView",                  "an empty frame until an application fills it"},
-    {"gallery", "QDeviceChangeEvent",             "nothing to be seen; the devices screen shows what it leads to"},
 
     {"Designer", "CParmField",                    "no widget"},
     {"Designer", "CWidgetStyle",                  "no widget"},
