@@ -62,7 +62,7 @@ if [ -n "$packages" ]; then
     exec tests/debian/checkdebian.sh "$PWD"
 fi
 
-test_packages="clang-format-14 clang-tidy-14 clang-14 shellcheck xvfb openbox xdotool x11-utils usbutils util-linux"
+test_packages="clang-format-14 clang-tidy-14 clang-14 shellcheck python3 xvfb openbox xdotool x11-utils usbutils util-linux"
 device_packages="qemu-system-x86 busybox-static kmod udev usbutils util-linux e2fsprogs python3"
 test_packages+=" doxygen qttools5-dev-tools abigail-tools xz-utils"
 # shellcheck disable=SC2046,SC2086
