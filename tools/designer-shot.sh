@@ -46,9 +46,9 @@ sleep 3 # Designer lays its docks out in several steps
 # The library's group at the end of the widget box, and the properties of a button of the form.
 xdotool mousemove 120 500 click --repeat 60 --delay 20 5
 xdotool mousemove 357 304 click 1
-sleep 1
-xdotool mousemove 1120 500 click --repeat 80 --delay 20 5 click --repeat 2 4 click --repeat 2 4
-sleep 1
+sleep 4
+xdotool mousemove 1120 500 click --repeat 80 --delay 20 5
+sleep 4
 xwd -silent -id "$window" -out "$home/window.xwd"
 xwdtopnm "$home/window.xwd" 2>/dev/null | pnmtopng -compression=9 >"$home/window.png" 2>/dev/null
 mv "$home/window.png" "$picture"
