@@ -27,6 +27,10 @@ void settle();
 void press(QWidget* widget, const QPoint& point);
 void release(QWidget* widget, const QPoint& point);
 
+/// The name of a job's counter that says what its time is, in microseconds, where that is not the
+/// time of this process.
+extern const char timeCounter[];
+
 /// Bytes of heap in use.
 size_t heap();
 
@@ -49,6 +53,11 @@ void addButtons();
 void addFields();
 void addTexts();
 void addLists();
+void addStart();
+
+/// Whether a benchmark has started this program with \a argv, and for what: a panel is on screen
+/// now, and the program may end.
+bool showsFirstFrame(int argc, char** argv);
 
 } // namespace bench
 

@@ -419,9 +419,14 @@ typedef void (*Job)(benchmark::State& state);
 
 void add(const char* name, Job job)
 {
-    benchmark::RegisterBenchmark(name, job)
+    benchmark::RegisterBenchmark(name,
+                                 [job](benchmark::State& state) {
+                                     job(state);
+                                     state.SetComplexityN(state.range(0));
+                                 })
         ->RangeMultiplier(10)
         ->Range(10, 10000)
+        ->Complexity() // how the time grows with the entries, fitted
         ->MinTime(0.1)
         ->Unit(benchmark::kMicrosecond);
 }

@@ -52,7 +52,10 @@ private:
         const std::string& name = run.run_name.function_name;
         const size_t slash = name.rfind('/');
         const std::string row = name.substr(0, slash);
-        set(row, name.substr(slash + 1), run.GetAdjustedCPUTime());
+        const std::map<std::string, benchmark::Counter>::const_iterator time =
+            run.counters.find(bench::timeCounter);
+        set(row, name.substr(slash + 1),
+            time == run.counters.end() ? run.GetAdjustedCPUTime() : time->second.value);
         std::map<std::string, benchmark::Counter>::const_iterator heap = run.counters.find("heap");
         if (heap != run.counters.end())
             set(row + ": bytes of heap each", name.substr(slash + 1), heap->second.value);
@@ -99,6 +102,8 @@ void send(QWidget* widget, QEvent::Type type, const QPoint& point, Qt::MouseButt
 
 namespace bench
 {
+
+const char timeCounter[] = "time";
 
 void add(const char* row, const char* column, Job job)
 {
@@ -170,12 +175,17 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_LOGGING_RULES", "*.warning=false"); // the platform's would break up the table
     QApplication application(argc, argv);
+    if (bench::showsFirstFrame(argc, argv)) {
+        fflush(stdout);
+        _exit(0); // the time to take it all down is not asked for
+    }
     CWidgetStyle::initialize(QLatin1String(CWIDGET_SOURCE_DIR "/style/widget-style.xml"));
     bench::addKeys();
     bench::addButtons();
     bench::addTexts();
     bench::addFields();
     bench::addLists();
+    bench::addStart();
     benchmark::Initialize(&argc, argv);
     TableReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
