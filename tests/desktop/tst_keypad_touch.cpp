@@ -169,6 +169,7 @@ void tst_keypad_touch::oneFieldAfterTheOther()
             touchScreen(keyOf(dialog, Key_Apply));
             QTRY_VERIFY(!dialog->isVisible());
         });
+        QTRY_VERIFY(fields.isActiveWindow()); // else the window manager still shows the last keypad
         touchScreen(edits[i]);
         QTRY_COMPARE(edits[i]->text().size(), 1);
         QCOMPARE(parent, static_cast<QWidget*>(edits[i]));
