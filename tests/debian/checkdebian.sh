@@ -37,8 +37,9 @@ programs=0
 while read -r file; do
     readelf --dynamic --program-headers "$file" >"$stage/elf" 2>/dev/null || continue
     grep -q '^There are no program headers' "$stage/elf" && continue
-    grep -qE 'BIND_NOW|Flags:.* NOW' "$stage/elf" && grep -q GNU_RELRO "$stage/elf" &&
-        grep -q 'type is DYN' "$stage/elf" || fail "$file is not hardened"
+    for sign in 'BIND_NOW|Flags:.* NOW' GNU_RELRO 'type is DYN'; do
+        grep -qE "$sign" "$stage/elf" || fail "$file is not hardened: no $sign"
+    done
     programs=$((programs + 1))
 done < <(find "$stage" -type f -path '*/usr/*' \( -perm /1 -o -name '*.so*' \))
 [ $programs -ge 5 ] || fail "only $programs programs and libraries"
@@ -74,6 +75,9 @@ fi
 
 echo "== in a fresh system"
 # In a mount namespace, so that nothing stays mounted whatever happens.
+status=0
 unshare --mount --pid --fork --kill-child "$here/entersystem.sh" "$system" "$archives" "$stage" \
-    "$source" || fail "the packages do not work in a fresh system"
+    "$source" || status=$?
+[ $status -ne 77 ] || exit 0
+[ $status -eq 0 ] || fail "the packages do not work in a fresh system"
 echo "ok"
