@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # readme.sh SOURCE: runs the commands of README.md, to the letter, in a clean copy of the tree, and
 # those of its section "Use" in a folder with the program that stands there. Left out is ./test.sh,
-# of which this is a part. In a mount namespace, whose /opt is a folder of this test.
+# of which this is a part. Then those of docs/device.md, in the same tree. In a mount namespace, whose
+# /opt is a folder of this test.
 set -euo pipefail
 source=$1
 
@@ -24,7 +25,7 @@ mkdir -m 700 "$README_WORK/application/runtime"
 mount --bind "$README_WORK/opt" /opt
 unset QT_QPA_PLATFORM DISPLAY WAYLAND_DISPLAY FONTCONFIG_FILE
 
-# blocks LANGUAGE: what README.md marks as that, on standard input.
+# blocks LANGUAGE: what a page marks as that, on standard input.
 blocks() {
     awk -v fence="^\`\`\`$1\$" '$0 ~ fence { inside = 1; next } /^```$/ { inside = 0 } inside'
 }
@@ -65,4 +66,31 @@ END
 test "$(grep -c . commands)" -ge 10
 run commands
 grep -q /opt/panel/share/quorlin-cwidget/widget-style.xml panel
+
+echo "== device"
+cd "$README_WORK/tree"
+# No user and no service is made here: their programs say that they were called, and the unit goes to
+# another folder.
+mkdir "$README_WORK/units" stubs
+for program in useradd systemctl; do
+    printf '#!/bin/sh\necho "%s $*" >>"%s/called"\n' "$program" "$README_WORK" >"stubs/$program"
+    chmod +x "stubs/$program"
+done
+blocks sh <docs/device.md | sed "s#/etc/systemd/system/#$README_WORK/units/#" >commands
+test "$(grep -c . commands)" -ge 7
+PATH=$PWD/stubs:$PATH run commands
+diff - "$README_WORK/called" <<'END'
+useradd --system --user-group panel
+systemctl enable --now appliance.service
+END
+# The unit starts what is installed; the platform is another one here.
+{
+    sed -n 's/^Environment=QT_QPA_PLATFORM=.*/export QT_QPA_PLATFORM=offscreen/p
+            s/^Environment=\(LD_.*\)/export \1/p
+            s/^ExecStart=/timeout 2 /p' "$README_WORK/units/appliance.service" |
+        sed "s#/var/lib/appliance#$README_WORK#"
+    echo 'test $? -eq 124'
+} >start
+test "$(grep -c . start)" -eq 4
+bash -ux start
 echo "ok"
