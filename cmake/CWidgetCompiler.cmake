@@ -7,6 +7,11 @@ if(CWIDGET_WERROR)
   target_compile_options(cwidget_compiler INTERFACE -Werror)
 endif()
 
+# What this Qt has marked as deprecated, the next one may no longer have.
+if(CWIDGET_NO_DEPRECATED)
+  target_compile_definitions(cwidget_compiler INTERFACE QT_DISABLE_DEPRECATED_BEFORE=0x070000)
+endif()
+
 if(CWIDGET_SANITIZE)
   set(flags -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   # Little optimisation and line numbers only: the tests are many, and built once to be run once.

@@ -2,7 +2,6 @@
 
 #include "style/qtcompat.h"
 
-#include <QCoreApplication>
 #include <QPainter>
 #include <QPen>
 #include <QPointer>
@@ -89,10 +88,7 @@ void CKeyButton::mouseReleaseEvent(QMouseEvent* event)
 /// no letter of a word like "hello" gets lost.
 void CKeyButton::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    const QPoint pos = qtcompat::eventPos(event);
-    QMouseEvent press(QEvent::MouseButtonPress, pos, mapToGlobal(pos), event->button(),
-                      event->buttons(), event->modifiers());
-    QCoreApplication::sendEvent(this, &press);
+    qtcompat::sendAsPress(event, this);
 }
 
 /// Paints the button, and on the backspace key an arrow over it.

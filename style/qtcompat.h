@@ -7,6 +7,8 @@
 #include <QByteArray>
 #include <QColor>
 #include <QComboBox>
+#include <QCoreApplication>
+#include <QFontDatabase>
 #include <QFontMetrics>
 #include <QMouseEvent>
 #include <QPoint>
@@ -14,12 +16,7 @@
 #include <QRect>
 #include <QString>
 #include <QStringList>
-
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-#include <QRegularExpression>
-#else
-#include <QRegExp>
-#endif
+#include <QWidget>
 
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
 #include <QGuiApplication>
@@ -30,9 +27,11 @@
 #endif
 
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+#include <QRegularExpression>
 #include <QStringDecoder>
 #else
 #include <QBuffer>
+#include <QRegExp>
 #include <QXmlInputSource>
 #endif
 
@@ -87,6 +86,16 @@ inline QColor namedColor(const QString& name)
 #endif
 }
 
+/// The families of the fonts that are installed and have the letters of \a system.
+inline QStringList fontFamilies(QFontDatabase::WritingSystem system = QFontDatabase::Any)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return QFontDatabase::families(system);
+#else
+    return QFontDatabase().families(system);
+#endif
+}
+
 /// The point of \a event in the coordinates of the widget that receives it.
 inline QPoint eventPos(const QMouseEvent* event)
 {
@@ -95,6 +104,15 @@ inline QPoint eventPos(const QMouseEvent* event)
 #else
     return event->pos();
 #endif
+}
+
+/// Sends \a receiver a copy of \a event, which is one of its own, as a press.
+inline void sendAsPress(const QMouseEvent* event, QWidget* receiver)
+{
+    const QPoint pos = eventPos(event);
+    QMouseEvent press(QEvent::MouseButtonPress, pos, receiver->mapToGlobal(pos), event->button(),
+                      event->buttons(), event->modifiers());
+    QCoreApplication::sendEvent(receiver, &press);
 }
 
 /// Whether the regular expression \a pattern is found in \a text; an invalid one never is, and

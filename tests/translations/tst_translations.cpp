@@ -13,12 +13,12 @@
 #include "parm/parmcombobox.h"
 #include "parm/parmlabel.h"
 #include "parm/parmlineedit.h"
+#include "style/qtcompat.h"
 #include "widgets/checkbox.h"
 #include "widgets/label.h"
 
 #include <QApplication>
 #include <QDomDocument>
-#include <QFontDatabase>
 #include <QLayout>
 #include <QProcess>
 #include <QScopedPointer>
@@ -217,8 +217,7 @@ private Q_SLOTS:
 void tst_translations::initTestCase()
 {
     QVERIFY(CWidgetStyle::initialize(QLatin1String(CWIDGET_SOURCE_DIR "/style/widget-style.xml")));
-    QFontDatabase fonts;
-    QVERIFY2(!fonts.families(QFontDatabase::SimplifiedChinese).isEmpty(),
+    QVERIFY2(!qtcompat::fontFamilies(QFontDatabase::SimplifiedChinese).isEmpty(),
              "no font with Chinese letters; ./test.sh installs one");
 }
 

@@ -6,7 +6,6 @@
 #include "style/xmlguard_p.h"
 
 #include <QDomDocument>
-#include <QFontDatabase>
 #include <QFontInfo>
 
 #include <algorithm>
@@ -91,7 +90,7 @@ bool earlier(const Finding& a, const Finding& b)
 /// A family may be followed by others, separated by commas, that stand in for it.
 bool machineHas(const QString& family)
 {
-    const QStringList present = QFontDatabase().families();
+    const QStringList present = qtcompat::fontFamilies();
     const QStringList wanted = family.split(QLatin1Char(','));
     for (int i = 0; i < wanted.size(); ++i) {
         for (int j = 0; j < present.size(); ++j) {
