@@ -117,7 +117,7 @@ fi
 if [ -n "$device" ]; then target=device; fi
 options+=(-DCWIDGET_BUILD_BENCHMARKS="$([ -n "$bench" ] && echo ON || echo OFF)")
 
-# The fuzzers run as a part of their build, so that is seen.
+# The fuzzers run as part of their build, so its output is shown.
 if [ -n "$fuzz" ]; then
     cmake -S . -B "$build" -G Ninja "${options[@]}"
     exec cmake --build "$build" --target "$target"

@@ -1,6 +1,6 @@
-// What assistive technology and test robots are told of the widgets. The widgets know nothing of
-// it: the factory below is asked by Qt for a class by its name, and what has changed is seen when a
-// widget paints itself anew.
+// What assistive technology and test robots learn about the widgets. The widgets know nothing about
+// it: Qt asks the factory below for a class by its name, and changes are noticed when a widget
+// repaints itself.
 
 #include "accessibility/accessiblerow_p.h"
 
@@ -68,7 +68,7 @@ void turnTo(CPageBar* bar, int index)
     }
 }
 
-// ---- what is told
+// ---- what is announced
 
 class Accessible : public QAccessibleWidget, public QAccessibleValueInterface
 {

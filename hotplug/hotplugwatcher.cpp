@@ -115,7 +115,7 @@ void CHotplugWatcher::detectDevice()
     QProcess lister;
     QProcess filter;
     lister.setStandardOutputProcess(&filter);
-    lister.setStandardErrorFile(QLatin1String("/dev/null")); // nobody reads its complaints
+    lister.setStandardErrorFile(QLatin1String("/dev/null")); // its complaints are of no use
     const bool canList = hasLister();
     for (int i = 0; i < table::count(inventory); ++i)
         CWidgetStyle::setDeviceAvailable(inventory[i].type,

@@ -171,9 +171,9 @@ CKeyButton* Keys::withCode(int code) const
     return 0;
 }
 
-/// The event filter of the grid. The press goes on to the key, unless a slot has deleted that. A
-/// double click, as which Qt delivers the second of two quick touches, is none: the key makes a
-/// press of it.
+/// The event filter of the grid. The press goes on to the key, unless a slot has deleted that. Qt
+/// delivers the second of two quick touches as a double click, which is no press here: the key
+/// makes one of it.
 bool Keys::filter(QObject* watched, QEvent* event)
 {
     const QPointer<QObject> receiver(watched); // a slot may delete the grid and this object, too

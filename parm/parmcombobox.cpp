@@ -16,8 +16,8 @@ const char wishedIndexProperty[] = "wishedIndex";
 } // namespace
 
 /// The name on grey and a combo box with the entries \a items, styled by the style file's entry
-/// "CParmComboBox". The entry \a current is chosen, in capitals or not; without one of that text
-/// the first entry is.
+/// "CParmComboBox". Chooses the entry \a current, whatever its case; if there is none with that
+/// text, the first one.
 CParmComboBox::CParmComboBox(const QString& name, const QStringList& items, const QString& current,
                              QWidget* parent)
     : CWidget(parent), m_initialText(current), m_nameLabel(0), m_comboBox(0)

@@ -116,8 +116,7 @@ inline void sendAsPress(const QMouseEvent* event, QWidget* receiver)
 }
 
 /// Whether the regular expression \a pattern is found in \a text; an invalid one never is, and
-/// gives no warning. Qt 6 has QRegExp in a module of its own only, which is not worth having for
-/// this.
+/// gives no warning. Qt 6 has QRegExp only in a module of its own, too much for this one use.
 inline bool matches(const QString& text, const char* pattern, Qt::CaseSensitivity sensitivity)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)

@@ -324,7 +324,7 @@ const char* CPushButton::heldSignal(const char* signal) const
 /// Paints background, border, picture, icon and text, in this order.
 void CPushButton::paintEvent(QPaintEvent* event)
 {
-    if (!painting::isOpaque(m_backgroundColor)) // else nothing of it is seen
+    if (!painting::isOpaque(m_backgroundColor)) // else none of it would be visible
         QPushButton::paintEvent(event);
     const QPixmap icon = iconPixmap();
     QPainter painter(this);

@@ -44,9 +44,9 @@ const char noDisplay[] =
     "There is no display. Draw the screens into pictures instead, with --shots DIR, or serve the\n"
     "panel over the network, without a password, with --platform vnc:size=800x600\n";
 
-const char servedByVnc[] =
-    "The panel is served by VNC, on port 5900, without a password: whoever reaches this machine\n"
-    "can see and use it.\n";
+const char servedByVnc[] = "The panel is served by VNC, on port 5900, without a password: anyone "
+                           "who reaches this machine\n"
+                           "can see and use it.\n";
 
 const char noMemory[] = "There is not enough memory for the panel.\n";
 

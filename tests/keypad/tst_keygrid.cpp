@@ -9,9 +9,9 @@
 #include <QSignalSpy>
 #include <QVBoxLayout>
 
+using testing::ExpectedKeys;
 using testing::keyOf;
 using testing::keysOf;
-using testing::KeySpecs;
 using testing::touch;
 
 namespace
@@ -51,7 +51,7 @@ Grid newNumeric()
 struct GridRow {
     const char* name;
     Grid (*create)();
-    KeySpecs (*keys)();
+    ExpectedKeys (*keys)();
     QMargins margins;
     int spacing;
     QList<int> rowSpacings;
@@ -93,9 +93,9 @@ QList<GridRow> gridRows()
     return QList<GridRow>() << general << hex << numeric;
 }
 
-KeySpecs watched(const KeySpecs& specs)
+ExpectedKeys watched(const ExpectedKeys& specs)
 {
-    KeySpecs result;
+    ExpectedKeys result;
     for (int i = 0; i < specs.size(); ++i) {
         if (specs.at(i).code != Qt::Key_unknown)
             result.append(specs.at(i));
@@ -227,7 +227,7 @@ void tst_keygrid::cleanup()
 void tst_keygrid::keysInTheirOrder()
 {
     const QList<CKeyButton*> keys = watchedKeysOf(m_pad);
-    const KeySpecs specs = watched(m_row.keys());
+    const ExpectedKeys specs = watched(m_row.keys());
     QCOMPARE(keys.size(), specs.size());
     for (int i = 0; i < keys.size(); ++i) {
         QCOMPARE(testing::difference(keys.at(i), specs.at(i)), QString());
@@ -249,7 +249,7 @@ void tst_keygrid::keysAreChildrenInOrder()
 void tst_keygrid::looksOfEveryKey()
 {
     const QList<CKeyButton*> keys = watchedKeysOf(m_pad);
-    const KeySpecs specs = watched(m_row.keys());
+    const ExpectedKeys specs = watched(m_row.keys());
     for (int i = 0; i < keys.size(); ++i) {
         const int background = specs.at(i).background;
         if (keys.at(i)->key() == Key_Apply)

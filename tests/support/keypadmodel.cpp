@@ -12,7 +12,7 @@ namespace
 
 const int maximumDigits = 40;
 
-KeySpecs keysOfType(CKeyPadFactory::KeyPadType type)
+ExpectedKeys keysOfType(CKeyPadFactory::KeyPadType type)
 {
     if (type == CKeyPadFactory::SKP_GENERAL)
         return generalKeys();
@@ -98,7 +98,7 @@ bool GridModel::isEnabled(int index) const
 
 QString GridModel::shownText(int index) const
 {
-    const KeySpec& key = m_keys.at(index);
+    const ExpectedKey& key = m_keys.at(index);
     if (m_type == CKeyPadFactory::SKP_FLOAT && key.code == Key_PlusMinus)
         return QString();
     if (m_type != CKeyPadFactory::SKP_GENERAL || !isLetterCode(key.code))

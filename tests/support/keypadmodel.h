@@ -35,7 +35,7 @@ public:
 
 private:
     CKeyPadFactory::KeyPadType m_type;
-    KeySpecs m_keys;
+    ExpectedKeys m_keys;
     bool m_caps;
     bool m_symbols;
     bool m_shifted;

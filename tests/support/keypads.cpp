@@ -15,19 +15,19 @@ namespace
 
 const int retryInterval = 2; // ms
 
-KeySpec spec(const QString& text, int code, int background, int width, int height, int row)
+ExpectedKey spec(const QString& text, int code, int background, int width, int height, int row)
 {
-    const KeySpec result = {text, code, QString(), background, QSize(width, height), row};
+    const ExpectedKey result = {text, code, QString(), background, QSize(width, height), row};
     return result;
 }
 
 /// The letters of a row of the general grid; codes are those of the upper-case letters.
-KeySpecs letters(const char* texts, const char* symbols, int row)
+ExpectedKeys letters(const char* texts, const char* symbols, int row)
 {
-    KeySpecs specs;
+    ExpectedKeys specs;
     for (; *texts; ++texts, ++symbols) {
         const int code = *texts - 'a' + 0x41;
-        KeySpec key = spec(QString(QLatin1Char(*texts)), code, 1, 45, 45, row);
+        ExpectedKey key = spec(QString(QLatin1Char(*texts)), code, 1, 45, 45, row);
         key.symbol = QString(QLatin1Char(*symbols));
         specs.append(key);
     }
@@ -35,9 +35,9 @@ KeySpecs letters(const char* texts, const char* symbols, int row)
 }
 
 /// The keys of the lowest row of the grids for numbers; \a background is that of "Del".
-KeySpecs functionKeys(const QString& fourth, int fourthCode, int background, int row)
+ExpectedKeys functionKeys(const QString& fourth, int fourthCode, int background, int row)
 {
-    KeySpecs specs;
+    ExpectedKeys specs;
     specs << spec("Del", Qt::Key_Delete, background, 40, 30, row)
           << spec("Del All", 0x200000c, background + 3, 77, 30, row)
           << spec(fourth, fourthCode, background + 6, 40, 30, row)
@@ -48,9 +48,9 @@ KeySpecs functionKeys(const QString& fourth, int fourthCode, int background, int
 
 } // namespace
 
-KeySpecs generalKeys()
+ExpectedKeys generalKeys()
 {
-    KeySpecs specs;
+    ExpectedKeys specs;
     for (int digit = 1; digit <= 10; ++digit)
         specs << spec(QString::number(digit % 10), 0x30 + digit % 10, 1, 45, 45, 0);
     specs << letters("qwertyuiop", "!#$%^&*()_", 1);
@@ -69,9 +69,9 @@ KeySpecs generalKeys()
     return specs;
 }
 
-KeySpecs hexKeys()
+ExpectedKeys hexKeys()
 {
-    KeySpecs specs;
+    ExpectedKeys specs;
     for (int i = 0; i < 6; ++i)
         specs << spec(QString(QLatin1Char('A' + i)), 0x41 + i, 22, 75, 40, i / 3);
     for (int i = 0; i < 9; ++i)
@@ -80,9 +80,9 @@ KeySpecs hexKeys()
     return specs << functionKeys("-", 0x2d, 25, 7);
 }
 
-KeySpecs numericKeys()
+ExpectedKeys numericKeys()
 {
-    KeySpecs specs;
+    ExpectedKeys specs;
     for (int i = 0; i < 9; ++i)
         specs << spec(QString::number(i + 1), 0x31 + i, 40, 75, 40, i / 3);
     specs << spec("+/-", 0x200000d, 40, 75, 40, 4);
@@ -91,7 +91,7 @@ KeySpecs numericKeys()
     return specs << functionKeys(".", 0x200000b, 43, 5);
 }
 
-QList<QRect> geometryOf(const KeySpecs& specs, const QSize& size, const QMargins& margins,
+QList<QRect> geometryOf(const ExpectedKeys& specs, const QSize& size, const QMargins& margins,
                         int spacing, const QList<int>& rowSpacings, const QList<bool>& centered)
 {
     QWidget grid;
@@ -142,7 +142,7 @@ QPixmap keyPicture(int status)
     return CWidgetStyle::getKeyStatus(static_cast<CWidgetStyle::KeyStatus>(status));
 }
 
-QString difference(CKeyButton* key, const KeySpec& spec)
+QString difference(CKeyButton* key, const ExpectedKey& spec)
 {
     QString what;
     if (key->getText() != spec.text || key->getKeyText() != spec.text)

@@ -18,7 +18,7 @@ namespace testing
 {
 
 /// A key as it must be.
-struct KeySpec {
+struct ExpectedKey {
     QString text;
     int code;
     QString symbol;
@@ -27,22 +27,22 @@ struct KeySpec {
     int row;
 };
 
-typedef QList<KeySpec> KeySpecs;
+typedef QList<ExpectedKey> ExpectedKeys;
 
 /// The keys of each grid in their order. The blank key has the code Qt::Key_unknown.
-KeySpecs generalKeys();
-KeySpecs hexKeys();
-KeySpecs numericKeys();
+ExpectedKeys generalKeys();
+ExpectedKeys hexKeys();
+ExpectedKeys numericKeys();
 
 /// Where keys of these sizes stand on a grid of \a size, rows of \a rowSpacings; -1 leaves a
 /// spacing to the layout. The rows of \a centered are centred as a whole.
-QList<QRect> geometryOf(const KeySpecs& specs, const QSize& size, const QMargins& margins,
+QList<QRect> geometryOf(const ExpectedKeys& specs, const QSize& size, const QMargins& margins,
                         int spacing, const QList<int>& rowSpacings, const QList<bool>& centered);
 
 QList<QRect> geometryOf(const QList<CKeyButton*>& keys);
 
 /// Empty when \a key has the texts, code and size of \a spec, else what differs.
-QString difference(CKeyButton* key, const KeySpec& spec);
+QString difference(CKeyButton* key, const ExpectedKey& spec);
 
 /// Empty when \a key shows this picture and text colour.
 QString lookDifference(CKeyButton* key, int background, Qt::GlobalColor textColor);

@@ -243,8 +243,8 @@ void StyleChecker::readColor(Style::Field field)
         skipUnknown(QStringList());
 }
 
-/// Goes on to the next child element of \a parent; false at its end. Text on the way is read by
-/// nobody.
+/// Goes on to the next child element of \a parent; false at its end. Skips text, which nothing
+/// reads.
 bool StyleChecker::nextChild(const QString& parent)
 {
     while (!m_reader.atEnd()) {
