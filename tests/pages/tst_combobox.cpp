@@ -3,6 +3,7 @@
 #include "pages/pagelistwidgetheader.h"
 #include "pages/pagelistwidgetitem.h"
 #include "support/signaltools.h"
+#include "support/stylefile.h"
 #include "support/testing.h"
 
 #include <QPainter>
@@ -278,12 +279,7 @@ void tst_combobox::autoStyle()
 
 void tst_combobox::fontComesFromTheStyleFile()
 {
-    testing::TemporaryFolder folder;
-    const QString path = folder.write(
-        text("style.xml"),
-        "<widget-style><widget type=\"1\" name=\"CComboBox\"><FieldAll>"
-        "<font family=\"Arial\" size=\"21\" bold=\"true\"/></FieldAll></widget></widget-style>");
-    QVERIFY(CWidgetStyle::initialize(path));
+    const testing::StyleFile file("CComboBox", 21);
     CComboBox box;
     QCOMPARE(box.font().pixelSize(), 21);
     QVERIFY(box.font().bold());

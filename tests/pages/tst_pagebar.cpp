@@ -1,5 +1,6 @@
 #include "pages/pagebar.h"
 #include "support/signaltools.h"
+#include "support/stylefile.h"
 #include "support/testing.h"
 #include "widgets/pushbutton.h"
 
@@ -313,12 +314,7 @@ void tst_pagebar::barMayDieInItsSignal()
 
 void tst_pagebar::fontComesFromItsOwnStyle()
 {
-    testing::TemporaryFolder folder;
-    const QString path = folder.write(
-        QString::fromLatin1("style.xml"),
-        "<widget-style><widget type=\"1\" name=\"CPageBar\"><FieldAll>"
-        "<font family=\"Arial\" size=\"21\" bold=\"true\"/></FieldAll></widget></widget-style>");
-    QVERIFY(CWidgetStyle::initialize(path));
+    const testing::StyleFile file("CPageBar", 21);
     CPageBar bar;
     QCOMPARE(bar.font().pixelSize(), 21);
     QVERIFY(bar.font().bold());

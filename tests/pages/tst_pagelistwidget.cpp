@@ -4,6 +4,7 @@
 #include "pages/pagelistwidgetitem.h"
 #include "pages/pagelistwidgetitemarea.h"
 #include "support/signaltools.h"
+#include "support/stylefile.h"
 #include "support/testing.h"
 #include "widgets/pushbutton.h"
 
@@ -372,12 +373,7 @@ void tst_pagelistwidget::heightFollowsTheBarOnScreen()
 
 void tst_pagelistwidget::fontComesFromTheComboBoxStyle()
 {
-    testing::TemporaryFolder folder;
-    const QString path = folder.write(
-        text("style.xml"),
-        "<widget-style><widget type=\"1\" name=\"CComboBox\"><FieldAll>"
-        "<font family=\"Arial\" size=\"21\" bold=\"true\"/></FieldAll></widget></widget-style>");
-    QVERIFY(CWidgetStyle::initialize(path));
+    const testing::StyleFile file("CComboBox", 21);
     CPageListWidget list;
     list.addItems(numberedTexts(1));
     QCOMPARE(list.font().pixelSize(), 21);

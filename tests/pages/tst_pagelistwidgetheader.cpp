@@ -1,4 +1,5 @@
 #include "pages/pagelistwidgetheader.h"
+#include "support/stylefile.h"
 #include "support/testing.h"
 
 #include <QPainter>
@@ -100,12 +101,7 @@ void tst_pagelistwidgetheader::settersRepaint()
 
 void tst_pagelistwidgetheader::fontComesFromTheComboBoxStyle()
 {
-    testing::TemporaryFolder folder;
-    const QString path = folder.write(
-        text("style.xml"),
-        "<widget-style><widget type=\"1\" name=\"CComboBox\"><FieldAll>"
-        "<font family=\"Arial\" size=\"21\" bold=\"true\"/></FieldAll></widget></widget-style>");
-    QVERIFY(CWidgetStyle::initialize(path));
+    const testing::StyleFile file("CComboBox", 21);
     CPageListWidgetHeader header;
     QCOMPARE(header.font().pixelSize(), 21);
     QVERIFY(header.font().bold());

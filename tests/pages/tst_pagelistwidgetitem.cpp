@@ -1,4 +1,5 @@
 #include "pages/pagelistwidgetitem.h"
+#include "support/stylefile.h"
 #include "support/testing.h"
 
 #include <QPainter>
@@ -239,12 +240,7 @@ void tst_pagelistwidgetitem::baseWidgetIsPaintedFirst()
 
 void tst_pagelistwidgetitem::fontComesFromTheComboBoxStyle()
 {
-    testing::TemporaryFolder folder;
-    const QString path = folder.write(
-        QString::fromLatin1("style.xml"),
-        "<widget-style><widget type=\"1\" name=\"CComboBox\"><FieldAll>"
-        "<font family=\"Arial\" size=\"21\" bold=\"true\"/></FieldAll></widget></widget-style>");
-    QVERIFY(CWidgetStyle::initialize(path));
+    const testing::StyleFile file("CComboBox", 21);
     CPageListWidgetItem row(label());
     QCOMPARE(row.font().pixelSize(), 21);
     QVERIFY(row.font().bold());

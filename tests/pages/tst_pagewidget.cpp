@@ -1,6 +1,7 @@
 #include "pages/pagebar.h"
 #include "pages/pagewidget.h"
 #include "support/signaltools.h"
+#include "support/stylefile.h"
 #include "support/testing.h"
 #include "widgets/graphicsview.h"
 #include "widgets/pushbutton.h"
@@ -378,12 +379,7 @@ void tst_pagewidget::pageWidgetMayDieInItsSignal()
 
 void tst_pagewidget::fontComesFromItsOwnStyle()
 {
-    testing::TemporaryFolder folder;
-    const QString path = folder.write(
-        QString::fromLatin1("style.xml"),
-        "<widget-style><widget type=\"1\" name=\"CPageWidget\"><FieldAll>"
-        "<font family=\"Arial\" size=\"23\" bold=\"true\"/></FieldAll></widget></widget-style>");
-    QVERIFY(CWidgetStyle::initialize(path));
+    const testing::StyleFile file("CPageWidget", 23);
     CPageWidget pages;
     QCOMPARE(pages.font().pixelSize(), 23);
     QVERIFY(pages.font().bold());

@@ -154,7 +154,7 @@ void tst_parmcheckbox::stylesOfTheFile_data()
 void tst_parmcheckbox::stylesOfTheFile()
 {
     QFETCH(int, entries);
-    const StyleFile file("CParmCheckBox", entries);
+    const testing::StyleFile file("CParmCheckBox", parmtesting::fieldsOf(entries));
     Fixture fixture;
     if (entries & NameEntry)
         styleByName(&fixture.nameIs);

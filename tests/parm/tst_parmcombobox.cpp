@@ -356,7 +356,7 @@ void tst_parmcombobox::stylesOfTheFile()
 {
     QFETCH(int, entries);
     const QFont plain = Fixture().combo->font();
-    const StyleFile file("CParmComboBox", entries);
+    const testing::StyleFile file("CParmComboBox", parmtesting::fieldsOf(entries));
     Fixture fixture;
     if (entries & NameEntry)
         styleByName(&fixture.nameIs);

@@ -316,7 +316,7 @@ void tst_parmlabel::stylesOfTheFile_data()
 void tst_parmlabel::stylesOfTheFile()
 {
     QFETCH(int, entries);
-    const StyleFile file("CParmLabel", entries);
+    const testing::StyleFile file("CParmLabel", parmtesting::fieldsOf(entries));
     Fixture fixture;
     if (entries & NameEntry)
         styleByName(&fixture.nameIs);

@@ -295,7 +295,7 @@ void tst_parmlineedit::stylesOfTheFile()
 {
     QFETCH(int, entries);
     const QFont plain = Fixture().edit->font();
-    const StyleFile file("CParmLineEdit", entries);
+    const testing::StyleFile file("CParmLineEdit", parmtesting::fieldsOf(entries));
     Fixture fixture;
     if (entries & NameEntry)
         styleByName(&fixture.nameIs);

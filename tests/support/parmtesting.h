@@ -1,7 +1,7 @@
 #ifndef CWIDGET_TESTS_SUPPORT_PARMTESTING_H
 #define CWIDGET_TESTS_SUPPORT_PARMTESTING_H
 
-#include "support/testing.h"
+#include "support/stylefile.h"
 #include "widgets/label.h"
 
 #include <QLayout>
@@ -96,52 +96,18 @@ inline void styleByAll(LabelLook* look)
     look->background = QColor(0x80, 0x00, 0x80);
 }
 
-/// Fills the style table from a real file with the given entries for one class, and empties the
-/// class's entry at the end of its life.
-class StyleFile
+/// The elements of the given entries, each with its size and its colours.
+inline QByteArray fieldsOf(int entries)
 {
-public:
-    StyleFile(const char* className, int entries) : m_className(className)
-    {
-        QByteArray text;
-        if (entries & AllEntry)
-            text += entry("FieldAll", AllSize, "#00FFFF", "#800080");
-        if (entries & ValueEntry)
-            text += entry("FieldValue", ValueSize, "#0000FF", "#FFFF00");
-        if (entries & NameEntry)
-            text += entry("FieldName", NameSize, "#FF0000", "#00FF00");
-        load(text);
-    }
-
-    ~StyleFile()
-    {
-        load(QByteArray());
-    }
-
-private:
-    static QByteArray entry(const char* field, int size, const char* foreground,
-                            const char* background)
-    {
-        QByteArray text = "<%0><font family=\"Arial\" size=\"%1\" bold=\"true\"/>"
-                          "<color foreground-color=\"%2\" background-color=\"%3\"/></%0>";
-        text.replace("%0", field);
-        text.replace("%1", QByteArray::number(size));
-        text.replace("%2", foreground);
-        text.replace("%3", background);
-        return text;
-    }
-
-    void load(const QByteArray& entries)
-    {
-        testing::TemporaryFolder folder;
-        const QByteArray text =
-            "<styles><widget name=\"" + m_className + "\">" + entries + "</widget></styles>";
-        if (!CWidgetStyle::initialize(folder.write(QLatin1String("style.xml"), text)))
-            qFatal("the style file of the test is not read");
-    }
-
-    QByteArray m_className;
-};
+    QByteArray text;
+    if (entries & AllEntry)
+        text += testing::StyleFile::field("FieldAll", AllSize, "#00FFFF", "#800080");
+    if (entries & ValueEntry)
+        text += testing::StyleFile::field("FieldValue", ValueSize, "#0000FF", "#FFFF00");
+    if (entries & NameEntry)
+        text += testing::StyleFile::field("FieldName", NameSize, "#FF0000", "#00FF00");
+    return text;
+}
 
 /// Empty when the layout of \a field has these margins and no gaps; else what is wrong.
 inline QString layoutFault(const QWidget* field, int right)

@@ -1,3 +1,4 @@
+#include "support/stylefile.h"
 #include "support/testing.h"
 
 #include "widgets/label.h"
@@ -269,12 +270,7 @@ void tst_label::textSizeZeroShowsOnlyTheCornerText()
 
 void tst_label::styleFileGivesTheFont()
 {
-    const testing::TemporaryFolder folder;
-    QVERIFY(CWidgetStyle::initialize(
-        folder.write(QLatin1String("style.xml"),
-                     "<r><widget name=\"CLabel\"><FieldAll><font family=\"Arial\" size=\"23\"/>"
-                     "<color foreground-color=\"#ff0000\" "
-                     "background-color=\"#00ff00\"/></FieldAll></widget></r>")));
+    const testing::StyleFile file("CLabel", 23);
     CLabel label;
     QCOMPARE(label.font().pixelSize(), 23);
     QCOMPARE(label.getBackgroundColor(), ground);

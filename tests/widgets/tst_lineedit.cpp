@@ -1,5 +1,6 @@
 #include "keypad/abstractkeypad.h"
 #include "support/keypads.h"
+#include "support/stylefile.h"
 #include "widgets/lineedit.h"
 #include "widgets/toptitlearea.h"
 
@@ -474,12 +475,7 @@ void tst_lineedit::styleRecord()
 
 void tst_lineedit::styleTableIsAskedOnConstruction()
 {
-    testing::TemporaryFolder folder;
-    const QString path = folder.write("widget-style.xml",
-                                      "<widget-style><widget type=\"65635\" name=\"CLineEdit\">"
-                                      "<FieldAll><font family=\"Arial\" size=\"23\" bold=\"true\"/>"
-                                      "</FieldAll></widget></widget-style>");
-    QVERIFY(CWidgetStyle::initialize(path));
+    const testing::StyleFile file("CLineEdit", 23);
     CLineEdit edit;
     QCOMPARE(edit.font().pixelSize(), 23);
     QVERIFY(edit.font().bold());

@@ -1,4 +1,5 @@
 #include "support/signaltools.h"
+#include "support/stylefile.h"
 #include "support/testing.h"
 
 #include "widgets/pushbutton.h"
@@ -521,12 +522,7 @@ void tst_pushbutton::qtStyleCanStillBeSet()
 
 void tst_pushbutton::fontComesFromTheStyleFile()
 {
-    const testing::TemporaryFolder folder;
-    QVERIFY(CWidgetStyle::initialize(folder.write(
-        QLatin1String("style.xml"),
-        "<r><widget name=\"CPushButton\"><FieldAll><font family=\"Arial\" size=\"23\"/>"
-        "<color foreground-color=\"#ff0000\" "
-        "background-color=\"#00ff00\"/></FieldAll></widget></r>")));
+    const testing::StyleFile file("CPushButton", 23);
     CPushButton button;
     QCOMPARE(button.font().pixelSize(), 23);
     QCOMPARE(button.getTextColor(), QColor(Qt::black));

@@ -1,3 +1,4 @@
+#include "support/stylefile.h"
 #include "support/testing.h"
 
 #include "widgets/toptitlearea.h"
@@ -90,14 +91,8 @@ void tst_toptitlearea::groundAndBorderAreUnderTheTitle()
 
 void tst_toptitlearea::fontComesFromItsOwnStyle()
 {
-    const testing::TemporaryFolder folder;
-    QVERIFY(CWidgetStyle::initialize(folder.write(
-        QLatin1String("style.xml"),
-        "<r><widget name=\"CTopTitleArea\"><FieldAll><font family=\"Arial\" size=\"23\"/>"
-        "<color foreground-color=\"#ff0000\" background-color=\"#00ff00\"/></FieldAll></widget>"
-        "<widget name=\"CWidget\"><FieldAll><font family=\"Arial\" "
-        "size=\"24\"/></FieldAll></widget>"
-        "</r>")));
+    const testing::StyleFile file("CTopTitleArea", 23);
+    const testing::StyleFile base("CWidget", 24);
     CTopTitleArea area;
     QCOMPARE(area.font().pixelSize(), 23);
     QVERIFY(!area.getBackgroundColor().isValid());

@@ -1,3 +1,4 @@
+#include "support/stylefile.h"
 #include "support/testing.h"
 
 #include "widgets/widget.h"
@@ -63,17 +64,6 @@ void paintBorder(QImage* image, int width, const QColor& color)
     QPainter painter(image);
     painter.setPen(pen);
     painter.drawRect(width / 2, width / 2, image->width() - width, image->height() - width);
-}
-
-/// Puts a style for CWidget, tst_Recorder's base, and Recorder into the table.
-void loadStyles(const char* className, int pixelSize)
-{
-    const testing::TemporaryFolder folder;
-    const QByteArray content = "<r><widget name=\"" + QByteArray(className) +
-                               "\"><FieldAll><font family=\"Arial\" size=\"" +
-                               QByteArray::number(pixelSize) +
-                               "\"/><color background-color=\"#ff0000\"/></FieldAll></widget></r>";
-    QVERIFY(CWidgetStyle::initialize(folder.write(QLatin1String("style.xml"), content)));
 }
 
 } // namespace
@@ -445,15 +435,15 @@ void tst_widget::setWidgetStyleIsOffWithoutAutoStyle()
 
 void tst_widget::constructorDoesNotStyle()
 {
-    loadStyles("CWidget", 33);
+    const testing::StyleFile file("CWidget", 33);
     CWidget widget;
     QVERIFY(widget.font().pixelSize() != 33);
 }
 
 void tst_widget::updateWidgetStyleByClassName()
 {
-    loadStyles("CWidget", 33);
-    loadStyles("Recorder", 34);
+    const testing::StyleFile file("CWidget", 33);
+    const testing::StyleFile derived("Recorder", 34);
     CWidget widget;
     widget.updateWidgetStyle();
     QCOMPARE(widget.font().pixelSize(), 33);
@@ -469,7 +459,7 @@ void tst_widget::updateWidgetStyleByClassName()
 
 void tst_widget::updateWidgetStyleReachesChildren()
 {
-    loadStyles("CWidget", 33);
+    const testing::StyleFile file("CWidget", 33);
     CWidget widget;
     widget.setAutoStyleEnabled(false);
     CWidget* child = new CWidget(&widget);
