@@ -1,5 +1,6 @@
 #include "parm/parmlabel.h"
 #include "support/parmtesting.h"
+#include "support/rows.h"
 
 using namespace parmtesting;
 
@@ -90,6 +91,7 @@ private Q_SLOTS:
     void looksWithoutAStyle();
     void texts();
     void setTextIsASlot();
+    void everySplit_data();
     void everySplit();
     void anUnknownProportionFixesTheFieldOnly();
     void theWidthAloneKeepsTheParts();
@@ -154,19 +156,23 @@ void tst_parmlabel::setTextIsASlot()
     QCOMPARE(meta->methodCount() - meta->methodOffset(), 1);
 }
 
+void tst_parmlabel::everySplit_data()
+{
+    testing::addRows(splits);
+}
+
 void tst_parmlabel::everySplit()
 {
-    for (size_t i = 0; i < sizeof splits / sizeof splits[0]; ++i) {
-        const SplitRow& row = splits[i];
-        Fixture fixture;
-        fixture.field.setWidth(row.width, static_cast<Proportion>(row.proportion));
-        QCOMPARE(fixture.field.minimumWidth(), row.width);
-        QCOMPARE(fixture.field.maximumWidth(), row.width);
-        QCOMPARE(fixture.name->minimumWidth(), row.name);
-        QCOMPARE(fixture.name->maximumWidth(), row.name);
-        QCOMPARE(fixture.value->minimumWidth(), row.value);
-        QCOMPARE(fixture.value->maximumWidth(), row.value);
-    }
+    QFETCH(int, row);
+    const SplitRow& split = splits[row];
+    Fixture fixture;
+    fixture.field.setWidth(split.width, static_cast<Proportion>(split.proportion));
+    QCOMPARE(fixture.field.minimumWidth(), split.width);
+    QCOMPARE(fixture.field.maximumWidth(), split.width);
+    QCOMPARE(fixture.name->minimumWidth(), split.name);
+    QCOMPARE(fixture.name->maximumWidth(), split.name);
+    QCOMPARE(fixture.value->minimumWidth(), split.value);
+    QCOMPARE(fixture.value->maximumWidth(), split.value);
 }
 
 void tst_parmlabel::anUnknownProportionFixesTheFieldOnly()

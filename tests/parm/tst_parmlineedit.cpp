@@ -1,6 +1,7 @@
 #include "keypad/softkeypad.h"
 #include "parm/parmlineedit.h"
 #include "support/parmtesting.h"
+#include "support/rows.h"
 #include "widgets/lineedit.h"
 #include "widgets/toptitlearea.h"
 
@@ -106,6 +107,7 @@ private Q_SLOTS:
     void looksWithoutAStyle();
     void texts();
     void setTextIsASlot();
+    void everySplit_data();
     void everySplit();
     void anUnknownProportionFixesTheFieldOnly();
     void resizingSplitsAgain();
@@ -172,19 +174,23 @@ void tst_parmlineedit::setTextIsASlot()
     QCOMPARE(meta->methodCount() - meta->methodOffset(), 4);
 }
 
+void tst_parmlineedit::everySplit_data()
+{
+    testing::addRows(splits);
+}
+
 void tst_parmlineedit::everySplit()
 {
-    for (size_t i = 0; i < sizeof splits / sizeof splits[0]; ++i) {
-        const SplitRow& row = splits[i];
-        Fixture fixture;
-        fixture.field.setWidth(row.width, static_cast<Proportion>(row.proportion));
-        QCOMPARE(fixture.field.minimumWidth(), row.width);
-        QCOMPARE(fixture.field.maximumWidth(), row.width);
-        QCOMPARE(fixture.name->minimumWidth(), row.name);
-        QCOMPARE(fixture.name->maximumWidth(), row.name);
-        QCOMPARE(fixture.edit->minimumWidth(), row.value);
-        QCOMPARE(fixture.edit->maximumWidth(), row.value);
-    }
+    QFETCH(int, row);
+    const SplitRow& split = splits[row];
+    Fixture fixture;
+    fixture.field.setWidth(split.width, static_cast<Proportion>(split.proportion));
+    QCOMPARE(fixture.field.minimumWidth(), split.width);
+    QCOMPARE(fixture.field.maximumWidth(), split.width);
+    QCOMPARE(fixture.name->minimumWidth(), split.name);
+    QCOMPARE(fixture.name->maximumWidth(), split.name);
+    QCOMPARE(fixture.edit->minimumWidth(), split.value);
+    QCOMPARE(fixture.edit->maximumWidth(), split.value);
 }
 
 void tst_parmlineedit::anUnknownProportionFixesTheFieldOnly()

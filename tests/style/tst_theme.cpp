@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/testing.h"
 
 #include <QApplication>
@@ -57,25 +58,32 @@ class tst_theme : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void everyColorOfThePalette_data();
     void everyColorOfThePalette();
     void unknownColorsAreInvalid();
     void color11IsQtsGray();
     void globalColorsAreQts();
+    void everySize_data();
     void everySize();
     void unknownSizesAreZeroNotInvalid();
+    void everyFont_data();
     void everyFont();
     void fontsFollowTheApplicationsFont();
     void unknownFontsAreDefault();
     void pluginWindowRect();
 };
 
+void tst_theme::everyColorOfThePalette_data()
+{
+    testing::addRows(colors);
+}
+
 void tst_theme::everyColorOfThePalette()
 {
-    for (size_t i = 0; i < sizeof colors / sizeof colors[0]; ++i) {
-        QCOMPARE(static_cast<int>(i), colors[i].code);
-        QVERIFY(color(colors[i].code).isValid());
-        QCOMPARE(color(colors[i].code).rgba(), 0xFF000000 | colors[i].rgb);
-    }
+    QFETCH(int, row);
+    QCOMPARE(row, colors[row].code);
+    QVERIFY(color(colors[row].code).isValid());
+    QCOMPARE(color(colors[row].code).rgba(), 0xFF000000 | colors[row].rgb);
 }
 
 void tst_theme::unknownColorsAreInvalid()
@@ -101,11 +109,16 @@ void tst_theme::globalColorsAreQts()
     QCOMPARE(color(15), QColor(Qt::white));
 }
 
+void tst_theme::everySize_data()
+{
+    testing::addRows(sizes);
+}
+
 void tst_theme::everySize()
 {
-    for (size_t i = 0; i < sizeof sizes / sizeof sizes[0]; ++i)
-        QCOMPARE(CWidgetStyle::getSize(static_cast<CWidgetStyle::SizeCode>(sizes[i].code)),
-                 QSize(sizes[i].width, sizes[i].height));
+    QFETCH(int, row);
+    QCOMPARE(CWidgetStyle::getSize(static_cast<CWidgetStyle::SizeCode>(sizes[row].code)),
+             QSize(sizes[row].width, sizes[row].height));
 }
 
 void tst_theme::unknownSizesAreZeroNotInvalid()
@@ -114,21 +127,25 @@ void tst_theme::unknownSizesAreZeroNotInvalid()
     QVERIFY(CWidgetStyle::getSize(static_cast<CWidgetStyle::SizeCode>(10)).isValid());
 }
 
+void tst_theme::everyFont_data()
+{
+    testing::addRows(fonts);
+}
+
 void tst_theme::everyFont()
 {
-    for (size_t i = 0; i < sizeof fonts / sizeof fonts[0]; ++i) {
-        const QFont actual = font(fonts[i].code);
-        QFont expected = fonts[i].family ? QFont() : QApplication::font();
-        if (fonts[i].family)
-            expected.setFamily(QLatin1String(fonts[i].family));
-        if (fonts[i].pixelSize > 0) {
-            expected.setWeight(QFont::Bold);
-            expected.setPixelSize(fonts[i].pixelSize);
-            QCOMPARE(actual.pixelSize(), fonts[i].pixelSize);
-        }
-        QCOMPARE(actual.toString(), expected.toString());
-        QCOMPARE(actual.bold(), fonts[i].pixelSize > 0);
+    QFETCH(int, row);
+    const QFont actual = font(fonts[row].code);
+    QFont expected = fonts[row].family ? QFont() : QApplication::font();
+    if (fonts[row].family)
+        expected.setFamily(QLatin1String(fonts[row].family));
+    if (fonts[row].pixelSize > 0) {
+        expected.setWeight(QFont::Bold);
+        expected.setPixelSize(fonts[row].pixelSize);
+        QCOMPARE(actual.pixelSize(), fonts[row].pixelSize);
     }
+    QCOMPARE(actual.toString(), expected.toString());
+    QCOMPARE(actual.bold(), fonts[row].pixelSize > 0);
 }
 
 void tst_theme::fontsFollowTheApplicationsFont()

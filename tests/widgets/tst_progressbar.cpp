@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/testing.h"
 #include "widgets/progressbar.h"
 
@@ -139,8 +140,10 @@ class tst_progressbar : public QObject
 
 private Q_SLOTS:
     void aNewBarIsEmpty();
+    void everyFill_data();
     void everyFill();
     void everyFillInAnotherSize();
+    void everyColor_data();
     void everyColor();
     void everyValueFromEmptyToFull();
     void theFillIsPainted();
@@ -167,14 +170,18 @@ void tst_progressbar::aNewBarIsEmpty()
     CWIDGET_COMPARE_IMAGES(testing::render(&bar), expected(QSize(300, 50), QRect(), Qt::red));
 }
 
+void tst_progressbar::everyFill_data()
+{
+    testing::addRows(fills);
+}
+
 void tst_progressbar::everyFill()
 {
-    for (size_t i = 0; i < sizeof fills / sizeof fills[0]; ++i) {
-        CProgressBar bar;
-        bar.setRange(fills[i].minimum, fills[i].maximum);
-        bar.setValue(fills[i].value);
-        QCOMPARE(bar.getProgressRect(), fillOf(fills[i].right));
-    }
+    QFETCH(int, row);
+    CProgressBar bar;
+    bar.setRange(fills[row].minimum, fills[row].maximum);
+    bar.setValue(fills[row].value);
+    QCOMPARE(bar.getProgressRect(), fillOf(fills[row].right));
 }
 
 void tst_progressbar::everyFillInAnotherSize()
@@ -189,14 +196,18 @@ void tst_progressbar::everyFillInAnotherSize()
     QCOMPARE(bar.getProgressRect(), QRect(QPoint(2, 2), QPoint(98, 18)));
 }
 
+void tst_progressbar::everyColor_data()
+{
+    testing::addRows(colors);
+}
+
 void tst_progressbar::everyColor()
 {
-    for (size_t i = 0; i < sizeof colors / sizeof colors[0]; ++i) {
-        CProgressBar bar;
-        bar.setRange(colors[i].minimum, colors[i].maximum);
-        bar.setValue(colors[i].value);
-        QCOMPARE(bar.getCurrentColor().rgba(), colors[i].color);
-    }
+    QFETCH(int, row);
+    CProgressBar bar;
+    bar.setRange(colors[row].minimum, colors[row].maximum);
+    bar.setValue(colors[row].value);
+    QCOMPARE(bar.getCurrentColor().rgba(), colors[row].color);
 }
 
 void tst_progressbar::everyValueFromEmptyToFull()
