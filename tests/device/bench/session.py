@@ -19,7 +19,8 @@ class Settings:
         self.initramfs = initramfs
         self.output = output
         self.programs = build / "tests/device"
-        self.gallery = str(build / "examples/gallery/quorlin-gallery")
+        galleries = (build / "examples/gallery").glob("quorlin-gallery*")  # with Qt 6, -qt6
+        self.gallery = str(next(path for path in galleries if path.is_file()))
         self.style = source / "style/widget-style.xml"
 
     def look(self):

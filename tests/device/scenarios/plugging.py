@@ -105,7 +105,8 @@ def mouse_and_storage_stay_noted(session):
 
 def resources(session):
     """The files that the program has open, and its threads."""
-    counts = session.guest.run("ls /proc/$(cat pid)/fd | wc -l; ls /proc/$(cat pid)/task | wc -l")
+    counts = session.guest.run("for of in fd task; do "
+                               "ls /proc/$(cat pid)/$of 2>/dev/null | wc -l; done")
     return [int(count) for count in counts.split()]
 
 
