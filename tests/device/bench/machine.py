@@ -53,6 +53,12 @@ class Machine:
         ]  # fmt: skip
 
     def __enter__(self):
+        self.switch_on()
+        return self
+
+    def switch_on(self):
+        """Also again, after the power was cut: what its disk holds is what it had."""
+        self._folder.mkdir(exist_ok=True)
         self.started = time.monotonic()
         errors = open(str(self._log) + ".qemu", "w")
         self._process = subprocess.Popen(self._command, stdin=subprocess.DEVNULL, stderr=errors)
@@ -65,7 +71,6 @@ class Machine:
             self.cut_power()
             raise
         self.booted = time.monotonic() - self.started
-        return self
 
     def __exit__(self, *_):
         self.cut_power()

@@ -13,7 +13,7 @@ DISCARD = 4
 def make_disk(path, folder, size="8M"):
     """An ext4 file system with what is in a folder."""
     subprocess.run(["/usr/sbin/mke2fs", "-q", "-F", "-t", "ext4", "-d", str(folder), str(path),
-                    size], check=True)
+                    size], check=True, stderr=subprocess.DEVNULL)
 
 
 def logged_disk(path, log):

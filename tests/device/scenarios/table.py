@@ -24,6 +24,7 @@ SCENARIOS = (
     ("whole-device",         "panel", device.whole_device),
     ("device-is-told",       "panel", device.device_is_told),
     ("power-cut",            "power", power.cut_while_rewriting),
+    ("power-cut-for-real",   "power", power.cut_for_real),
     ("found-at-the-start",   "small", plugging.found_at_the_start),
     ("mouse-and-storage",    "small", plugging.mouse_and_storage_stay_noted),
     ("small-screen",         "small", screens.shows_the_corner),
