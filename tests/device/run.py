@@ -42,7 +42,7 @@ MACHINES = {
     "panel": lambda settings: {},
     "power": lambda settings: {"options": disk_options(settings)},
     "small": lambda settings: {"size": (640, 480), "options": COUNTED_TIME + PLUGGED},
-    "wide": lambda settings: {"size": (1280, 800)},
+    "wide": lambda settings: {"size": (1280, 800), "memory": 128},
 }
 
 

@@ -1,6 +1,6 @@
 """All scenarios, in the order in which they run."""
 
-from scenarios import device, measuring, plugging, power, screens, touching
+from scenarios import device, measuring, plugging, power, scarce, screens, touching
 
 # Which machine each needs: the names of run.py's MACHINES.
 SCENARIOS = (
@@ -29,4 +29,5 @@ SCENARIOS = (
     ("mouse-and-storage",    "small", plugging.mouse_and_storage_stay_noted),
     ("small-screen",         "small", screens.shows_the_corner),
     ("wide-screen",          "wide",  screens.shows_the_corner),
+    ("little-memory",        "wide",  scarce.little_memory),
 )  # fmt: skip
