@@ -51,6 +51,7 @@ private Q_SLOTS:
     void modeAndOwnerAreKept();
     void linkStaysALink();
     void otherNamesSeeTheNewContent();
+    void nothingIsLeftOfALongerContent();
     void whatAFailingPowerLeftIsNoObstacle();
     void folderWhereNothingCanBeMade();
 };
@@ -107,6 +108,19 @@ void tst_widgetstyle_replace::otherNamesSeeTheNewContent()
     QVERIFY(isNew(path));
     QVERIFY(isNew(other));
     QCOMPARE(statusOf(path).st_ino, statusOf(other).st_ino);
+}
+
+/// Where the file cannot be replaced, as it has two names, it is written over.
+void tst_widgetstyle_replace::nothingIsLeftOfALongerContent()
+{
+    const TemporaryFolder folder;
+    const QByteArray longer = QByteArray(styled).replace("Old", QByteArray(500, 'O'));
+    const QString path = folder.write(QLatin1String("style.xml"), longer);
+    const QString other = folder.path() + QLatin1String("/other.xml");
+    QCOMPARE(::link(QFile::encodeName(path).constData(), QFile::encodeName(other).constData()), 0);
+    QVERIFY(rewrite(path));
+    QVERIFY2(isNew(path), contentOf(path).constData());
+    QVERIFY(contentOf(path).size() < longer.size());
 }
 
 void tst_widgetstyle_replace::whatAFailingPowerLeftIsNoObstacle()
