@@ -267,8 +267,8 @@ void Monkey::compare(const Usage& end)
            "%lld kB, %d objects, %d files\n",
            m_seed, m_steps, m_middle.memory / 1024, m_middle.objects, m_middle.files,
            end.memory / 1024, end.objects, end.files);
-    const bool isFatter = m_steps >= warmSteps && end.memory - m_middle.memory > mostGrowth;
-    if (isFatter || end.objects > m_middle.objects || end.files > m_middle.files)
+    const bool isFatter = end.memory - m_middle.memory > mostGrowth || end.files > m_middle.files;
+    if ((m_steps >= warmSteps && isFatter) || end.objects > m_middle.objects)
         fail(QLatin1String("the panel has grown"));
 }
 
