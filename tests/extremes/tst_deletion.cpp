@@ -25,7 +25,7 @@ const char* const later[] = {
     "QLineEdit::",
     "CParmLineEdit::",
     "QTextEdit::",
-    "QDialog::finished(", // Qt 6
+    "QDialog::", // Qt 6
     "QComboBox::currentIndexChanged(",
     "QComboBox::currentTextChanged(",
 };

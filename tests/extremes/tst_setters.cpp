@@ -133,8 +133,22 @@ private:
     Q_DISABLE_COPY(Sample)
 };
 
+/// A shown list of gigabytes: Qt 6 has a picture for all of it and fills that, for minutes.
+void hideGiantLists()
+{
+    const qint64 largest = 4000 * 4000;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (int i = 0; i < windows.size(); ++i) {
+        QWidget* const window = windows.at(i);
+        if (window->windowType() == Qt::Popup &&
+            static_cast<qint64>(window->width()) * window->height() > largest)
+            window->hide();
+    }
+}
+
 void settle()
 {
+    hideGiantLists();
     QCoreApplication::sendPostedEvents();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
