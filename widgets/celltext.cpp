@@ -85,7 +85,7 @@ void CellText::draw(QChar ch, const QPoint& corner)
     Cell& cell = cellOf(ch);
     if (++cell.count == countWorthShaping && m_drawsGlyphs && isPlain(ch))
         shape(ch, &cell);
-    if (!cell.isGlyph || m_font != cell.font)
+    if (!cell.isGlyph || !(m_font == cell.font))
         flush(); // what overlaps is drawn in the order of the text
     if (!cell.isGlyph) {
         m_painter->drawText(QRect(corner, QSize(cell.width, m_height)), Qt::AlignCenter,
