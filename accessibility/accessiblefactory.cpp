@@ -103,7 +103,7 @@ private:
 /// Name and value are one: the parts are not told apart.
 bool Accessible::isOne() const
 {
-    return m_row.valueClass != 0;
+    return m_row.valueClass != nullptr;
 }
 
 /// What the application says with setAccessibleName() goes before what the widget shows.
@@ -148,12 +148,12 @@ int Accessible::childCount() const
 
 QAccessibleInterface* Accessible::child(int index) const
 {
-    return isOne() ? 0 : QAccessibleWidget::child(index);
+    return isOne() ? nullptr : QAccessibleWidget::child(index);
 }
 
 QAccessibleInterface* Accessible::childAt(int x, int y) const
 {
-    return isOne() ? 0 : QAccessibleWidget::childAt(x, y);
+    return isOne() ? nullptr : QAccessibleWidget::childAt(x, y);
 }
 
 QStringList Accessible::actionNames() const
@@ -314,9 +314,9 @@ void watch(QWidget* widget, const Row& row)
 QAccessibleInterface* accessibleOf(const QString& className, QObject* object)
 {
     QWidget* const widget = qobject_cast<QWidget*>(object);
-    const Row* const row = widget ? accessible::rowOf(className) : 0;
+    const Row* const row = widget ? accessible::rowOf(className) : nullptr;
     if (!row)
-        return 0;
+        return nullptr;
     if (QAccessible::isActive())
         watch(widget, *row);
     return new Accessible(widget, *row);

@@ -139,24 +139,24 @@ Range pageRange(const QWidget* widget)
 
 // clang-format off
 const Row rows[] = {
-    {"CPushButton",             QAccessible::Button,       buttonName,                                                0,                                                        addButtonState,               0,                        PressOperation,  0},
-    {"CKeyButton",              QAccessible::Button,       keyName,                                                   0,                                                        addButtonState,               0,                        PressOperation,  0},
-    {"CLabel",                  QAccessible::StaticText,   got<CLabel, &CLabel::text>,                                0,                                                        0,                            0,                        PressOperation,  0},
-    {"CCheckBox",               QAccessible::CheckBox,     got<QAbstractButton, &QAbstractButton::text>,                    0,                                                        addCheckState<CCheckBox>,     0,                        ToggleOperation, 0},
-    {"CProgressBar",            QAccessible::ProgressBar,  0,                                                         0,                                                        0,                            barRange<CProgressBar>,   NoOperation,     0},
-    {"CClockProgress",          QAccessible::ProgressBar,  0,                                                         0,                                                        addClockState,                barRange<CClockProgress>, NoOperation,     0},
-    {"CTopTitleArea",           QAccessible::Heading,      got<CTopTitleArea, &CTopTitleArea::title>,                 0,                                                        0,                            0,                        NoOperation,     0},
-    {"CPageBar",                QAccessible::SpinBox,      pageText,                                                  0,                                                        0,                            pageRange,                TurnOperation,   0},
-    {"CPageListWidget",         QAccessible::Pane,         got<CPageListWidget, &CPageListWidget::title>,             0,                                                        0,                            0,                        NoOperation,     0},
-    {"CPageListWidgetHeader",   QAccessible::Heading,      got<CPageListWidgetHeader, &CPageListWidgetHeader::title>, got<CPageListWidgetHeader, &CPageListWidgetHeader::text>, 0,                            0,                        NoOperation,     0},
-    {"CPageListWidgetItemArea", QAccessible::List,         0,                                                         0,                                                        0,                            0,                        NoOperation,     0},
-    {"CPageListWidgetItem",     QAccessible::ListItem,     got<CPageListWidgetItem, &CPageListWidgetItem::text>,      0,                                                        addRowState,                  0,                        PressOperation,  0},
-    {"CParmLabel",              QAccessible::StaticText,   got<CParmLabel, &CParmLabel::name>,                        got<CParmLabel, &CParmLabel::text>,                       0,                            0,                        NoOperation,     "CLabel"},
-    {"CParmLineEdit",           QAccessible::EditableText, got<CParmLineEdit, &CParmLineEdit::name>,                  got<CParmLineEdit, &CParmLineEdit::text>,                 addFieldState,                0,                        PressOperation,  "CLineEdit"},
-    {"CParmComboBox",           QAccessible::ComboBox,     got<CParmComboBox, &CParmComboBox::name>,                  got<CParmComboBox, &CParmComboBox::currentText>,          0,                            0,                        PressOperation,  "CComboBox"},
-    {"CParmCheckBox",           QAccessible::CheckBox,     got<CParmCheckBox, &CParmCheckBox::name>,                  got<CParmCheckBox, &CParmCheckBox::text>,                 addCheckState<CParmCheckBox>, 0,                        ToggleOperation, "CCheckBox"},
-    {"CAbstractKeyPad",         QAccessible::Grouping,     0,                                                         0,                                                        0,                            0,                        NoOperation,     0},
-    {"CSoftKeyPad",             QAccessible::Dialog,       keypadTitle,                                               got<CSoftKeyPad, &CSoftKeyPad::getInput>,                 0,                            0,                        NoOperation,     0},
+    {"CPushButton",             QAccessible::Button,       buttonName,                                                nullptr,                                                  addButtonState,               nullptr,                  PressOperation,  nullptr},
+    {"CKeyButton",              QAccessible::Button,       keyName,                                                   nullptr,                                                  addButtonState,               nullptr,                  PressOperation,  nullptr},
+    {"CLabel",                  QAccessible::StaticText,   got<CLabel, &CLabel::text>,                                nullptr,                                                  nullptr,                      nullptr,                  PressOperation,  nullptr},
+    {"CCheckBox",               QAccessible::CheckBox,     got<QAbstractButton, &QAbstractButton::text>,              nullptr,                                                  addCheckState<CCheckBox>,     nullptr,                  ToggleOperation, nullptr},
+    {"CProgressBar",            QAccessible::ProgressBar,  nullptr,                                                   nullptr,                                                  nullptr,                      barRange<CProgressBar>,   NoOperation,     nullptr},
+    {"CClockProgress",          QAccessible::ProgressBar,  nullptr,                                                   nullptr,                                                  addClockState,                barRange<CClockProgress>, NoOperation,     nullptr},
+    {"CTopTitleArea",           QAccessible::Heading,      got<CTopTitleArea, &CTopTitleArea::title>,                 nullptr,                                                  nullptr,                      nullptr,                  NoOperation,     nullptr},
+    {"CPageBar",                QAccessible::SpinBox,      pageText,                                                  nullptr,                                                  nullptr,                      pageRange,                TurnOperation,   nullptr},
+    {"CPageListWidget",         QAccessible::Pane,         got<CPageListWidget, &CPageListWidget::title>,             nullptr,                                                  nullptr,                      nullptr,                  NoOperation,     nullptr},
+    {"CPageListWidgetHeader",   QAccessible::Heading,      got<CPageListWidgetHeader, &CPageListWidgetHeader::title>, got<CPageListWidgetHeader, &CPageListWidgetHeader::text>, nullptr,                      nullptr,                  NoOperation,     nullptr},
+    {"CPageListWidgetItemArea", QAccessible::List,         nullptr,                                                   nullptr,                                                  nullptr,                      nullptr,                  NoOperation,     nullptr},
+    {"CPageListWidgetItem",     QAccessible::ListItem,     got<CPageListWidgetItem, &CPageListWidgetItem::text>,      nullptr,                                                  addRowState,                  nullptr,                  PressOperation,  nullptr},
+    {"CParmLabel",              QAccessible::StaticText,   got<CParmLabel, &CParmLabel::name>,                        got<CParmLabel, &CParmLabel::text>,                       nullptr,                      nullptr,                  NoOperation,     "CLabel"},
+    {"CParmLineEdit",           QAccessible::EditableText, got<CParmLineEdit, &CParmLineEdit::name>,                  got<CParmLineEdit, &CParmLineEdit::text>,                 addFieldState,                nullptr,                  PressOperation,  "CLineEdit"},
+    {"CParmComboBox",           QAccessible::ComboBox,     got<CParmComboBox, &CParmComboBox::name>,                  got<CParmComboBox, &CParmComboBox::currentText>,          nullptr,                      nullptr,                  PressOperation,  "CComboBox"},
+    {"CParmCheckBox",           QAccessible::CheckBox,     got<CParmCheckBox, &CParmCheckBox::name>,                  got<CParmCheckBox, &CParmCheckBox::text>,                 addCheckState<CParmCheckBox>, nullptr,                  ToggleOperation, "CCheckBox"},
+    {"CAbstractKeyPad",         QAccessible::Grouping,     nullptr,                                                   nullptr,                                                  nullptr,                      nullptr,                  NoOperation,     nullptr},
+    {"CSoftKeyPad",             QAccessible::Dialog,       keypadTitle,                                               got<CSoftKeyPad, &CSoftKeyPad::getInput>,                 nullptr,                      nullptr,                  NoOperation,     nullptr},
 };
 // clang-format on
 
@@ -169,13 +169,13 @@ const Row* rowOf(const QString& className)
         if (className == QLatin1String(rows[i].className))
             return &rows[i];
     }
-    return 0;
+    return nullptr;
 }
 
 /// The row of the class of \a object, or of the nearest of its base classes.
 const Row* rowOf(const QObject* object)
 {
-    const Row* row = 0;
+    const Row* row = nullptr;
     for (const QMetaObject* meta = object->metaObject(); meta && !row; meta = meta->superClass())
         row = rowOf(QString::fromLatin1(meta->className()));
     return row;

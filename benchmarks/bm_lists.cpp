@@ -63,7 +63,7 @@ QWidget* firstVisibleRow(QWidget* list)
         if (rows.at(i)->isVisible())
             return rows.at(i);
     }
-    return 0;
+    return nullptr;
 }
 
 // ---- the candidates, all with the same operations

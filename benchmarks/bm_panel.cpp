@@ -126,7 +126,7 @@ void repaintAll(QWidget* window)
 void settle()
 {
     QCoreApplication::sendPostedEvents();
-    QCoreApplication::sendPostedEvents(0, QEvent::DeferredDelete);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QCoreApplication::processEvents();
 }
 

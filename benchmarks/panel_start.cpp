@@ -89,7 +89,7 @@ double startOnce(const char* which)
 {
     const pid_t child = fork();
     if (child == 0) {
-        execl("/proc/self/exe", "bm_panel", startOption, which, static_cast<char*>(0));
+        execl("/proc/self/exe", "bm_panel", startOption, which, static_cast<char*>(nullptr));
         _exit(1);
     }
     int status = 0;

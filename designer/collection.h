@@ -13,7 +13,7 @@ class Collection : public QObject, public QDesignerCustomWidgetCollectionInterfa
     Q_INTERFACES(QDesignerCustomWidgetCollectionInterface)
 
 public:
-    explicit Collection(QObject* parent = 0);
+    explicit Collection(QObject* parent = nullptr);
 
     QList<QDesignerCustomWidgetInterface*> customWidgets() const override;
 

@@ -44,7 +44,7 @@ void PageContainer::insertWidget(int index, QWidget* page)
 
 bool PageContainer::canRemove(int index) const
 {
-    return m_pages->widget(index) != 0;
+    return m_pages->widget(index) != nullptr;
 }
 
 void PageContainer::remove(int index)
@@ -69,7 +69,7 @@ QObject* PageContainerFactory::extension(QObject* object, const QString& iid) co
 {
     CPageWidget* const pages = qobject_cast<CPageWidget*>(object);
     if (!pages || iid != Q_TYPEID(QDesignerContainerExtension))
-        return 0;
+        return nullptr;
     PageContainer* const made =
         pages->findChild<PageContainer*>(QString(), Qt::FindDirectChildrenOnly);
     return made ? made : new PageContainer(pages, pages);

@@ -47,7 +47,7 @@ QString variableName(const QString& className)
 } // namespace
 
 WidgetPlugin::WidgetPlugin(const WidgetRow& row, QObject* parent)
-    : QObject(parent), m_row(row), m_core(0)
+    : QObject(parent), m_row(row), m_core(nullptr)
 {
 }
 
@@ -114,7 +114,7 @@ QString WidgetPlugin::domXml() const
 
 bool WidgetPlugin::isInitialized() const
 {
-    return m_core != 0;
+    return m_core != nullptr;
 }
 
 /// Called by Qt Designer alone. An application that loads forms names its style file itself.

@@ -122,7 +122,7 @@ bool ReceiverBarrier::post(const QPointer<QObject>& receiver, QDeviceChangeEvent
     if (object)
         QCoreApplication::postEvent(object, new QDeviceChangeEvent(action, dev),
                                     Qt::HighEventPriority);
-    return object != 0;
+    return object != nullptr;
 }
 
 /// Returns when no event is being posted. Runs in the thread of a receiver that is destroyed.
@@ -157,12 +157,12 @@ const QDeviceWatcherPrivate::ActionRow* QDeviceWatcherPrivate::rowOf(const QStri
         if (action == QLatin1String(s_actions[i].action))
             return &s_actions[i];
     }
-    return 0;
+    return nullptr;
 }
 
 /// The closed socket of \a watcher, whose signals it calls.
 QDeviceWatcherPrivate::QDeviceWatcherPrivate(QDeviceWatcher* watcher)
-    : m_watcher(watcher), m_notifier(0), m_socket(-1)
+    : m_watcher(watcher), m_notifier(nullptr), m_socket(-1)
 {
 }
 

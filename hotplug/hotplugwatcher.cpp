@@ -80,7 +80,7 @@ void noteInputDevice(const QString& dev, Qt::CaseSensitivity mouseCase, bool ava
 
 /// Takes the inventory, which can block for up to about three seconds, and follows the kernel's
 /// notifications from then on. Start it before the first window is shown.
-CHotplugWatcher::CHotplugWatcher(QObject* parent) : QThread(parent), m_watcher(0)
+CHotplugWatcher::CHotplugWatcher(QObject* parent) : QThread(parent), m_watcher(nullptr)
 {
     start(QThread::InheritPriority);
     detectDevice();
@@ -101,7 +101,7 @@ CHotplugWatcher::~CHotplugWatcher()
 {
     if (m_watcher->isRunning())
         m_watcher->stop();
-    disconnect(this, 0, m_watcher, 0);
+    disconnect(this, nullptr, m_watcher, nullptr);
     delete m_watcher;
     quit();
     wait(); // a thread object must not go while its thread runs

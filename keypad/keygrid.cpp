@@ -98,7 +98,7 @@ CKeyButton* newKey(const Key& row, QWidget* grid)
 } // namespace
 
 /// No keys yet. \a grid owns the object.
-Keys::Keys(CAbstractKeyPad* grid) : m_grid(grid), m_selected(0)
+Keys::Keys(CAbstractKeyPad* grid) : m_grid(grid), m_selected(nullptr)
 {
 }
 
@@ -168,7 +168,7 @@ CKeyButton* Keys::withCode(int code) const
         if (m_keys.at(i)->key() == code)
             return m_keys.at(i);
     }
-    return 0;
+    return nullptr;
 }
 
 /// The event filter of the grid. The press goes on to the key, unless a slot has deleted that. Qt

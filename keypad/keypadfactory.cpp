@@ -15,7 +15,7 @@ QWidget* activeWindow()
 {
     QWidget* window = QApplication::activeWindow();
     while (qobject_cast<CSoftKeyPad*>(window) && !window->isVisible())
-        window = window->parentWidget() ? window->parentWidget()->window() : 0;
+        window = window->parentWidget() ? window->parentWidget()->window() : nullptr;
     return window;
 }
 

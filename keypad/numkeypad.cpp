@@ -69,7 +69,7 @@ protected:
 
 /// The grid with all its keys, "Apply" selected, put into \a mode.
 CNumKeyPad::CNumKeyPad(Mode mode, QWidget* parent)
-    : CAbstractKeyPad(parent), m_mode(SignedMode), m_signKey(0), m_keys(new NumKeys(this))
+    : CAbstractKeyPad(parent), m_mode(SignedMode), m_signKey(nullptr), m_keys(new NumKeys(this))
 {
     CNumKeyPad::initialize();
     setMode(mode);

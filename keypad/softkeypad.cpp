@@ -39,9 +39,9 @@ QString numberText(int value, int base)
 /// grid for \a type; an unknown type has the general one.
 CSoftKeyPad::CSoftKeyPad(CKeyPadFactory::KeyPadType type, QWidget* parent)
     : QDialog(parent),
-      m_edit(0),
-      m_gridRow(0),
-      m_grid(0),
+      m_edit(nullptr),
+      m_gridRow(nullptr),
+      m_grid(nullptr),
       m_type(type),
       m_rangeSet(false),
       m_minimum(0),

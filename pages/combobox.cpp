@@ -46,7 +46,7 @@ CComboBox::CComboBox(QWidget* parent)
     m_pageList->hide();
     setFixedHeight(metrics::controlHeight);
     // The font comes first, as a sheet would have to go away for it.
-    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), 0));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), nullptr));
     setStyleSheet(QLatin1String(boxStyleSheet));
     connect(this, qtcompat::comboTextActivatedSignal(), this, SLOT(itemActivated(QString)));
     connect(m_pageList, SIGNAL(currentItemChanged(QString)), this,

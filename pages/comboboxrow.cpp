@@ -4,7 +4,7 @@
 #include "style/qtcompat.h"
 
 /// Follows \a box, which must outlive it.
-ComboBoxRow::ComboBoxRow(CComboBox* box) : m_box(box), m_pendingTexts(0), m_hold(0)
+ComboBoxRow::ComboBoxRow(CComboBox* box) : m_box(box), m_pendingTexts(0), m_hold(nullptr)
 {
     connect(box, SIGNAL(currentIndexChanged(int)), this, SLOT(takeNumber(int)));
     connect(box, qtcompat::comboRowTextSignal(), this, SLOT(takeText(QString)));
@@ -39,5 +39,5 @@ void ComboBoxRow::takeText(const QString& text)
         return;
     --m_pendingTexts;
     const bool waits = m_hold && m_hold->m_pendingTexts == m_pendingTexts;
-    m_box->followRow(text, waits ? m_hold->m_texts : 0);
+    m_box->followRow(text, waits ? m_hold->m_texts : nullptr);
 }

@@ -61,7 +61,7 @@ CPageBar::CPageBar(QWidget* parent, CWidgetStyle::PageBarType type)
         buildHorizontal();
     else
         buildVertical();
-    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CPageBar"), 0));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CPageBar"), nullptr));
     setText();
     connect(m_leftButton, SIGNAL(clicked(bool)), this, SLOT(leftClicked()));
     connect(m_rightButton, SIGNAL(clicked(bool)), this, SLOT(rightClicked()));

@@ -33,7 +33,7 @@ CPageListWidget::CPageListWidget(QWidget* parent)
     m_pageBar->setBackgroundColor(Qt::white);
     m_pageBar->setBorderColor(Qt::black);
     m_pageBar->setBorderWidth(1);
-    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), 0));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), nullptr));
     connect(m_itemArea, SIGNAL(currentItemChanged(QString)), this,
             SIGNAL(currentItemChanged(QString)));
     connect(m_itemArea, SIGNAL(currentItemChanged(int)), this, SIGNAL(currentItemChanged(int)));

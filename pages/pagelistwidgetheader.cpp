@@ -36,7 +36,7 @@ bool CPageListWidgetHeader::initialize()
     setBackgroundColor(Qt::white);
     setBorderColor(Qt::black);
     setBorderWidth(1);
-    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), 0));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), nullptr));
     return true;
 }
 

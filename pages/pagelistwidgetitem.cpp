@@ -58,7 +58,7 @@ bool CPageListWidgetItem::initialize()
 {
     setHeight(metrics::controlHeight);
     setAttribute(Qt::WA_MouseTracking);
-    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), 0));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), nullptr));
     return true;
 }
 

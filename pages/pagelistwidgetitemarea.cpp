@@ -26,9 +26,9 @@ CPageListWidgetItemArea::CPageListWidgetItemArea(QWidget* parent)
       m_currentIndex(0),
       m_maxVisibleRows(metrics::rowsOfPage),
       m_layout(new PageLayout(this)),
-      m_pressedItem(0),
-      m_releasedItem(0),
-      m_hoveredItem(0),
+      m_pressedItem(nullptr),
+      m_releasedItem(nullptr),
+      m_hoveredItem(nullptr),
       m_firstShown(0),
       m_endShown(0)
 {
@@ -36,7 +36,7 @@ CPageListWidgetItemArea::CPageListWidgetItemArea(QWidget* parent)
     setBorderColor(Qt::black);
     setBorderWidth(1);
     setMouseTracking(true);
-    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), 0));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), nullptr));
     setMaxVisibleRows(metrics::rowsOfPage);
 }
 
@@ -77,9 +77,9 @@ void CPageListWidgetItemArea::clear()
     QList<CPageListWidgetItem*> items;
     items.swap(m_items);
     m_visibleItems.clear();
-    m_pressedItem = 0;
-    m_releasedItem = 0;
-    m_hoveredItem = 0;
+    m_pressedItem = nullptr;
+    m_releasedItem = nullptr;
+    m_hoveredItem = nullptr;
     m_currentIndex = 0;
     m_currentPage = 0;
     m_firstShown = 0;
@@ -244,7 +244,7 @@ QSize CPageListWidgetItemArea::rowSize() const
 void CPageListWidgetItemArea::mousePressEvent(QMouseEvent* event)
 {
     CWidget::mousePressEvent(event);
-    m_releasedItem = 0;
+    m_releasedItem = nullptr;
     m_pressedItem = itemAt(qtcompat::eventPos(event));
 }
 
@@ -253,9 +253,9 @@ void CPageListWidgetItemArea::mouseReleaseEvent(QMouseEvent* event)
 {
     CWidget::mouseReleaseEvent(event);
     m_releasedItem = itemAt(qtcompat::eventPos(event));
-    CPageListWidgetItem* chosen = m_releasedItem == m_pressedItem ? m_releasedItem : 0;
-    m_pressedItem = 0;
-    m_releasedItem = 0;
+    CPageListWidgetItem* chosen = m_releasedItem == m_pressedItem ? m_releasedItem : nullptr;
+    m_pressedItem = nullptr;
+    m_releasedItem = nullptr;
     const QPointer<CPageListWidgetItemArea> self(this); // a slot may delete the area
     if (chosen)
         choose(chosen);
@@ -292,11 +292,11 @@ void CPageListWidgetItemArea::mouseMoveEvent(QMouseEvent* event)
 CPageListWidgetItem* CPageListWidgetItemArea::itemAt(const QPoint& point) const
 {
     if (!rect().contains(point))
-        return 0;
+        return nullptr;
     for (int i = m_endShown - 1; i >= m_firstShown; --i) {
         CPageListWidgetItem* item = m_visibleItems.at(i);
         if (!item->isHidden() && item->geometry().contains(point))
             return item;
     }
-    return 0;
+    return nullptr;
 }

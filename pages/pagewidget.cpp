@@ -49,7 +49,7 @@ CPageWidget::CPageWidget(QWidget* parent)
     layout->addWidget(m_stack);
     layout->addWidget(m_pageBar);
     letBarGrow();
-    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CPageWidget"), 0));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CPageWidget"), nullptr));
     setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::ContainerBackgroundColor));
     connect(m_pageBar, SIGNAL(pageChanged(int)), this, SLOT(setCurrentPage(int)));
 }
@@ -96,7 +96,7 @@ void CPageWidget::removePage(int index)
 {
     if (QWidget* page = m_stack->widget(index)) {
         m_stack->removeWidget(page);
-        page->setParent(0);
+        page->setParent(nullptr);
     }
     m_pageBar->removePage(index);
 }
@@ -137,7 +137,7 @@ QWidget* CPageWidget::takeHiddenPage(int number)
             return page;
         }
     }
-    return 0;
+    return nullptr;
 }
 
 /// The first position with a higher number than \a number, else that of the last page.
@@ -188,7 +188,7 @@ void CPageWidget::setCurrentPage(int index)
         return;
     m_pageBar->setCurrentIndex(index);
     m_stack->setCurrentIndex(index);
-    updateParm(0, pageChangeSize);
+    updateParm(nullptr, pageChangeSize);
 }
 
 /// Fixes the size, in pixels, that of the page bar included, which takes the lower 30.

@@ -17,14 +17,14 @@ const int nameSize = 9; // pixels, until a style says otherwise
 /// The name on grey and an unchecked box with the caption \a text, styled by the style file's entry
 /// "CParmCheckBox".
 CParmCheckBox::CParmCheckBox(const QString& name, const QString& text, QWidget* parent)
-    : CWidget(parent), m_nameLabel(0), m_checkBox(0)
+    : CWidget(parent), m_nameLabel(nullptr), m_checkBox(nullptr)
 {
     QHBoxLayout* const layout = parmpattern::createLayout(this, rightMargin);
     m_nameLabel = parmpattern::addNameLabel(layout, name, 0);
     m_nameLabel->setTextSize(nameSize);
     m_checkBox = new CCheckBox(text, this);
     layout->addWidget(m_checkBox);
-    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CParmCheckBox"), 0));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CParmCheckBox"), nullptr));
     connect(m_checkBox, SIGNAL(stateChanged(int)), this, SIGNAL(stateChanged(int)));
 }
 

@@ -20,7 +20,7 @@ const char wishedIndexProperty[] = "wishedIndex";
 /// text, the first one.
 CParmComboBox::CParmComboBox(const QString& name, const QStringList& items, const QString& current,
                              QWidget* parent)
-    : CWidget(parent), m_initialText(current), m_nameLabel(0), m_comboBox(0)
+    : CWidget(parent), m_initialText(current), m_nameLabel(nullptr), m_comboBox(nullptr)
 {
     QHBoxLayout* const layout = parmpattern::createLayout(this);
     m_nameLabel = parmpattern::addNameLabel(layout, name, 1);
@@ -31,7 +31,7 @@ CParmComboBox::CParmComboBox(const QString& name, const QStringList& items, cons
         m_comboBox->setCurrentIndex(
             m_comboBox->findData(m_initialText, Qt::DisplayRole, Qt::MatchFixedString));
     layout->addWidget(m_comboBox);
-    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CParmComboBox"), 0));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CParmComboBox"), nullptr));
     setBorderVisible(false, FieldName);
     connect(m_comboBox, SIGNAL(currentValueChanged(int)), this, SIGNAL(currentIndexChanged(int)));
     connect(m_comboBox, SIGNAL(currentItemActivated(int)), this, SIGNAL(activated(int)));

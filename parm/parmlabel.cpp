@@ -9,7 +9,7 @@
 /// The name on grey and the blue value on white in a grey frame, both styled by the style file's
 /// entry "CParmLabel".
 CParmLabel::CParmLabel(const QString& name, const QString& value, QWidget* parent)
-    : CWidget(parent), m_nameLabel(0), m_valueLabel(0)
+    : CWidget(parent), m_nameLabel(nullptr), m_valueLabel(nullptr)
 {
     QHBoxLayout* const layout = parmpattern::createLayout(this);
     m_nameLabel = parmpattern::addNameLabel(layout, name, 1);
@@ -20,7 +20,7 @@ CParmLabel::CParmLabel(const QString& name, const QString& value, QWidget* paren
     m_valueLabel->setBackgroundColor(Qt::white);
     m_valueLabel->setTextColor(Qt::blue);
     layout->addWidget(m_valueLabel);
-    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CParmLabel"), 0));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CParmLabel"), nullptr));
     setBorderVisible(false, FieldName);
 }
 

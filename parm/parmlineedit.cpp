@@ -10,7 +10,7 @@
 /// The name on grey and a line edit with the text \a value, styled by the style file's entry
 /// "CParmLineEdit".
 CParmLineEdit::CParmLineEdit(const QString& name, const QString& value, QWidget* parent)
-    : CWidget(parent), m_nameLabel(0), m_lineEdit(0), m_proportion(Proportion1To1)
+    : CWidget(parent), m_nameLabel(nullptr), m_lineEdit(nullptr), m_proportion(Proportion1To1)
 {
     QHBoxLayout* const layout = parmpattern::createLayout(this);
     m_nameLabel = parmpattern::addNameLabel(layout, name, 0);
@@ -18,7 +18,7 @@ CParmLineEdit::CParmLineEdit(const QString& name, const QString& value, QWidget*
     m_lineEdit->setTitle(name);
     m_lineEdit->setText(value);
     layout->addWidget(m_lineEdit);
-    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CParmLineEdit"), 0));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CParmLineEdit"), nullptr));
     connect(m_lineEdit, SIGNAL(textChanged(QString)), this, SIGNAL(textChanged(QString)));
     connect(m_lineEdit, SIGNAL(textEdited(QString)), this, SIGNAL(textEdited(QString)));
     connect(m_lineEdit, SIGNAL(editingFinished()), this, SIGNAL(editingFinished()));

@@ -22,7 +22,7 @@ bool writeAll(QFile* file, const QByteArray& content)
 bool isPlain(const QByteArray& path, struct stat* status)
 {
     return lstat(path.constData(), status) == 0 && S_ISREG(status->st_mode) &&
-           status->st_nlink == 1 && llistxattr(path.constData(), 0, 0) <= 0;
+           status->st_nlink == 1 && llistxattr(path.constData(), nullptr, 0) <= 0;
 }
 
 /// Gives the new file of the descriptor \a descriptor the owner and the mode of the old one.

@@ -125,16 +125,16 @@ const Slice pageSwitches[] = {
     // clang-format off
     {"hspinbox_arrow_20.png",  0, 26, 20}, //  0
     {"hspinbox_arrow_20.png",  1, 26, 20}, //  1
-    {0,                        0,  0,  0}, //  2
+    {nullptr,                  0,  0,  0}, //  2
     {"hspinbox_arrow_20.png",  2, 26, 20}, //  3
     {"hspinbox_arrow_20.png",  3, 26, 20}, //  4
-    {0,                        0,  0,  0}, //  5
+    {nullptr,                  0,  0,  0}, //  5
     {"arrow-up-3states.png",   0, 24, 40}, //  6
     {"arrow-up-3states.png",   2, 24, 40}, //  7
-    {0,                        0,  0,  0}, //  8
+    {nullptr,                  0,  0,  0}, //  8
     {"arrow-down-3states.png", 0, 24, 40}, //  9
     {"arrow-down-3states.png", 2, 24, 40}, // 10
-    {0,                        0,  0,  0}, // 11
+    {nullptr,                  0,  0,  0}, // 11
     // clang-format on
 };
 static_assert(table::count(pageSwitches) == CWidgetStyle::DownSelected + 1,

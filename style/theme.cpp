@@ -55,11 +55,11 @@ const struct FontRow {
     // clang-format off
     {"Arial",     0},  // 0
     {"Helvetica", 12}, // 1
-    {0,           13}, // 2
-    {0,           13}, // 3
-    {0,           16}, // 4
-    {0,           10}, // 5
-    {0,           13}, // 6
+    {nullptr,     13}, // 2
+    {nullptr,     13}, // 3
+    {nullptr,     16}, // 4
+    {nullptr,     10}, // 5
+    {nullptr,     13}, // 6
     // clang-format on
 };
 static_assert(table::count(fonts) == CWidgetStyle::Font6 + 1, "each FontType has a row");

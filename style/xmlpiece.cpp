@@ -91,7 +91,7 @@ void XmlLedger::settle(Entry* first)
             entry->state = Open;
             const Step step = {entry, entry->piece.uses.constBegin()};
             path.append(step);
-            entry = 0;
+            entry = nullptr;
         }
         Step& step = path.last();
         for (; !entry && step.next != step.entry->piece.uses.constEnd(); ++step.next) {

@@ -23,7 +23,7 @@ typedef void (*MessageReceiver)(QtMsgType type, const QString& text);
 
 inline MessageReceiver& messageReceiver()
 {
-    static MessageReceiver receiver = 0;
+    static MessageReceiver receiver = nullptr;
     return receiver;
 }
 
@@ -45,13 +45,13 @@ inline void handleMessage(QtMsgType type, const char* text)
 inline void receiveMessages(MessageReceiver receiver)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
-    static QtMessageHandler previous = 0;
+    static QtMessageHandler previous = nullptr;
     if (receiver && !messageReceiver())
         previous = qInstallMessageHandler(handleMessage);
     else if (!receiver && messageReceiver())
         qInstallMessageHandler(previous);
 #else
-    static QtMsgHandler previous = 0;
+    static QtMsgHandler previous = nullptr;
     if (receiver && !messageReceiver())
         previous = qInstallMsgHandler(handleMessage);
     else if (!receiver && messageReceiver())

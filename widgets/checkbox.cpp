@@ -45,7 +45,7 @@ CCheckBox::CCheckBox(const QString& text, QWidget* parent)
     setText(text); // here, where assistive technology already sees this class
     setFixedHeight(metrics::controlHeight);
     setFont(QFont(QLatin1String("Arial"), captionPointSize, QFont::Bold));
-    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CCheckBox"), 0));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CCheckBox"), nullptr));
 }
 
 CCheckBox::~CCheckBox()

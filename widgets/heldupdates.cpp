@@ -20,5 +20,5 @@ void HeldUpdates::resume()
 {
     if (m_widget)
         m_widget->setUpdatesEnabled(true);
-    m_widget = 0;
+    m_widget = nullptr;
 }

@@ -32,7 +32,7 @@ CLabel::CLabel(QWidget* parent)
       m_lineHeight(wrappedLineHeight)
 {
     setHeight(metrics::controlHeight);
-    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CLabel"), 0));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CLabel"), nullptr));
     setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::ControlBackgroundColor));
 }
 

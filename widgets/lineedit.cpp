@@ -21,7 +21,7 @@ CLineEdit::CLineEdit(QWidget* parent)
 {
     setFixedHeight(metrics::controlHeight);
     // The font comes first, as a sheet would have to go away for it.
-    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CLineEdit"), 0));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CLineEdit"), nullptr));
     setStyleSheet(QLatin1String("border: 0px;")); // the frame is painted here
 }
 

@@ -74,10 +74,10 @@ CPushButton::CPushButton(QWidget* parent)
       m_normalSize(true),
       m_autoStyleEnabled(true),
       m_looksPressed(false),
-      m_shapedText(0)
+      m_shapedText(nullptr)
 {
     initialize();
-    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CPushButton"), 0));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CPushButton"), nullptr));
 }
 
 CPushButton::~CPushButton()
@@ -318,7 +318,7 @@ void CPushButton::changeEvent(QEvent* event)
 const char* CPushButton::heldSignal(const char* signal) const
 {
     const bool slotsCome = isCheckable() || receivers(signal) > 0;
-    return painting::isOpaque(m_backgroundColor) && !slotsCome ? signal : 0;
+    return painting::isOpaque(m_backgroundColor) && !slotsCome ? signal : nullptr;
 }
 
 /// Paints background, border, picture, icon and text, in this order.

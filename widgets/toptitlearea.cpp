@@ -16,7 +16,7 @@ const int stripHeight = 30;
 /// A strip without a title, in the font of the style file's entry "CTopTitleArea".
 CTopTitleArea::CTopTitleArea(QWidget* parent) : CWidget(parent)
 {
-    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CTopTitleArea"), 0));
+    setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CTopTitleArea"), nullptr));
 }
 
 CTopTitleArea::~CTopTitleArea()

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-KQWidgetStack* KQWidgetStack::m_pInstance = 0;
+KQWidgetStack* KQWidgetStack::m_pInstance = nullptr;
 
 KQWidgetStack::KQWidgetStack() : m_recording(true)
 {
@@ -33,11 +33,11 @@ QWidget* KQWidgetStack::top()
 QWidget* KQWidgetStack::pop()
 {
     if (m_stack.isEmpty())
-        return 0;
+        return nullptr;
     QWidget* widget = m_stack.last();
     m_stack.remove(m_stack.size() - 1);
     if (!widget)
-        return 0;
+        return nullptr;
     widget->setVisible(false);
     if (!m_stack.isEmpty()) {
         m_recording = false; // the widget below is shown, not pushed again

@@ -60,14 +60,14 @@ const struct Setting {
 } settings[] = {
     // clang-format off
     {0, "network/mode",        "Mode",             "DHCP",       "DHCP|Static", CKeyPadFactory::SKP_GENERAL, 0,     0},
-    {0, "network/address",     "Address",          "192.0.2.17", 0,             CKeyPadFactory::SKP_FLOAT,   0,     0},
-    {0, "network/name",        "Name",             "dosing-17",  0,             CKeyPadFactory::SKP_GENERAL, 0,     0},
-    {0, "network/port",        "Port",             "8080",       0,             CKeyPadFactory::SKP_DECIMAL, 1024,  65535},
+    {0, "network/address",     "Address",          "192.0.2.17", nullptr,       CKeyPadFactory::SKP_FLOAT,   0,     0},
+    {0, "network/name",        "Name",             "dosing-17",  nullptr,       CKeyPadFactory::SKP_GENERAL, 0,     0},
+    {0, "network/port",        "Port",             "8080",       nullptr,       CKeyPadFactory::SKP_DECIMAL, 1024,  65535},
     {1, "measurement/unit",    "Unit",             "ml",         "ml|g|oz",     CKeyPadFactory::SKP_GENERAL, 0,     0},
-    {1, "measurement/target",  "Amount per dose",  "250",        0,             CKeyPadFactory::SKP_DECIMAL, 10,    500},
-    {1, "measurement/rate",    "Rate, per second", "20",         0,             CKeyPadFactory::SKP_DECIMAL, 1,     100},
-    {2, "service/code",        "Service code",     "0",          0,             CKeyPadFactory::SKP_HEX,     0,     0xFFFF},
-    {2, "service/offset",      "Sensor offset",    "0",          0,             CKeyPadFactory::SKP_DECIMAL, -50,   50},
+    {1, "measurement/target",  "Amount per dose",  "250",        nullptr,       CKeyPadFactory::SKP_DECIMAL, 10,    500},
+    {1, "measurement/rate",    "Rate, per second", "20",         nullptr,       CKeyPadFactory::SKP_DECIMAL, 1,     100},
+    {2, "service/code",        "Service code",     "0",          nullptr,       CKeyPadFactory::SKP_HEX,     0,     0xFFFF},
+    {2, "service/offset",      "Sensor offset",    "0",          nullptr,       CKeyPadFactory::SKP_DECIMAL, -50,   50},
     // clang-format on
 };
 
@@ -177,12 +177,12 @@ Appliance::Appliance(const QString& settingsFile)
       m_title(new Title(this)),
       m_pages(new CPageWidget(this)),
       m_report(addText(QString(), this)),
-      m_level(0),
-      m_run(0),
+      m_level(nullptr),
+      m_run(nullptr),
       m_timer(new QTimer(this)),
-      m_service(0),
-      m_count(0),
-      m_address(0)
+      m_service(nullptr),
+      m_count(nullptr),
+      m_address(nullptr)
 {
     setSize(CWidgetStyle::getSize(CWidgetStyle::ScreenSize));
     setWindowTitle(latin("Dosing unit"));
@@ -256,12 +256,13 @@ void Appliance::addSetting(const Setting& setting, QVBoxLayout* page)
     if (setting.entries) {
         CParmComboBox* const choice =
             new CParmComboBox(latin(setting.label), latin(setting.entries).split(QLatin1Char('|')),
-                              value(setting.key), 0);
+                              value(setting.key), nullptr);
         connect(choice, SIGNAL(activated(int)), this, SLOT(keepChoice(int)));
         addField(choice, setting.key, page);
         return;
     }
-    CParmLineEdit* const edit = new CParmLineEdit(latin(setting.label), value(setting.key), 0);
+    CParmLineEdit* const edit =
+        new CParmLineEdit(latin(setting.label), value(setting.key), nullptr);
     edit->setSKPType(setting.keypad);
     if (setting.minimum < setting.maximum)
         edit->setRange(setting.minimum, setting.maximum);
@@ -303,11 +304,12 @@ void Appliance::addRecipes(QVBoxLayout* page)
 
 void Appliance::addService(QVBoxLayout* page)
 {
-    m_count = new CParmLabel(latin("Doses so far"), value("service/doses"), 0);
+    m_count = new CParmLabel(latin("Doses so far"), value("service/doses"), nullptr);
     addField(m_count, "service/doses", page);
     // The switch is on a page that everybody sees.
     QVBoxLayout* const first = qobject_cast<QVBoxLayout*>(m_pages->widget(0)->layout());
-    m_service = new CParmCheckBox(latin("Service page"), latin("shown before the recipes"), 0);
+    m_service =
+        new CParmCheckBox(latin("Service page"), latin("shown before the recipes"), nullptr);
     addField(m_service, "service/shown", first);
     m_service->setChecked(value("service/shown") == latin("1"));
     connect(m_service, SIGNAL(stateChanged(int)), this, SLOT(openService(int)));

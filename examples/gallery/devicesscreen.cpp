@@ -26,7 +26,8 @@ const struct {
 
 } // namespace
 
-DevicesScreen::DevicesScreen(Panel* panel) : Screen(QLatin1String("Devices"), panel), m_watcher(0)
+DevicesScreen::DevicesScreen(Panel* panel)
+    : Screen(QLatin1String("Devices"), panel), m_watcher(nullptr)
 {
     addHeading(QLatin1String("Attached devices"), layout::firstHeading);
     addRegistry(52);

@@ -15,7 +15,7 @@ const struct Language {
     const char* file;
 } languages[] = {
     // clang-format off
-    {"EN", 0},
+    {"EN", nullptr},
     {"DE", "de"},
     {"ZH", "zh_CN"},
     // clang-format on

@@ -45,11 +45,11 @@ QStringList recipes()
 
 ListsScreen::ListsScreen(Panel* panel)
     : Screen(QLatin1String("Lists"), panel),
-      m_longList(0),
-      m_masked(0),
-      m_maskText(0),
-      m_languages(0),
-      m_more(0),
+      m_longList(nullptr),
+      m_masked(nullptr),
+      m_maskText(nullptr),
+      m_languages(nullptr),
+      m_more(nullptr),
       m_allLanguages(false)
 {
     connect(this, SIGNAL(hint(QString)), panel, SLOT(setHint(QString)));

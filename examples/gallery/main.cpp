@@ -77,10 +77,10 @@ Options takeOptions(QStringList* arguments)
                          : name == QLatin1String("--shots")  ? &options.shots
                          : name == QLatin1String("--monkey") ? &options.monkey
                          : name == QLatin1String("--seed")   ? &options.seed
-                                                             : 0;
+                                                             : nullptr;
         bool* flag = name == QLatin1String("--log")    ? &options.log
                      : name == QLatin1String("--help") ? &options.help
-                                                       : 0;
+                                                       : nullptr;
         if (!value && !flag) {
             ++i;
             continue;

@@ -84,7 +84,7 @@ int countOf(const Row (&)[Count])
 }
 
 // For the handlers of messages and of signals, which know no object.
-QStringList* warnings = 0;
+QStringList* warnings = nullptr;
 char crashText[80];
 
 void noteWarning(const QString& text)
@@ -168,8 +168,8 @@ bool Monkey::run()
     stepLater();
     QApplication::exec();
     watchForCrashes(SIG_DFL);
-    receiveWarnings(0);
-    warnings = 0;
+    receiveWarnings(nullptr);
+    warnings = nullptr;
     return !m_failed;
 }
 
@@ -215,7 +215,7 @@ void Monkey::settle()
         return;
     m_panel->showScreen(Panel::screenNames().first());
     emptyFields();
-    QApplication::sendPostedEvents(0, QEvent::DeferredDelete);
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QPixmapCache::clear();
     m_settling = false;
     if (m_step < m_steps) {

@@ -68,7 +68,12 @@ KQWidgetStack* stack()
 
 /// Styled by \a styleFile, which the theme screen rewrites.
 Panel::Panel(const QString& styleFile)
-    : CWidget(0), m_styleFile(styleFile), m_strip(0), m_back(0), m_hint(0), m_logging(false)
+    : CWidget(nullptr),
+      m_styleFile(styleFile),
+      m_strip(nullptr),
+      m_back(nullptr),
+      m_hint(nullptr),
+      m_logging(false)
 {
     setSize(CWidgetStyle::getSize(CWidgetStyle::ScreenSize));
     setBackgroundColor(barColor);

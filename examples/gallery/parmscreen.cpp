@@ -61,7 +61,7 @@ QVBoxLayout* ParmScreen::addPage(const QString& title)
 
 void ParmScreen::addLabel(QVBoxLayout* page, const char* name, const char* value)
 {
-    CParmLabel* field = new CParmLabel(QLatin1String(name), QLatin1String(value), 0);
+    CParmLabel* field = new CParmLabel(QLatin1String(name), QLatin1String(value), nullptr);
     field->setTextColor(Qt::black, FieldValue);
     field->setWidth(contentWidth(), Proportion1To1);
     page->insertWidget(page->count() - 1, field);
@@ -70,7 +70,7 @@ void ParmScreen::addLabel(QVBoxLayout* page, const char* name, const char* value
 CParmLineEdit* ParmScreen::addEdit(QVBoxLayout* page, const char* name, const char* value,
                                    CKeyPadFactory::KeyPadType type)
 {
-    CParmLineEdit* field = new CParmLineEdit(QLatin1String(name), QLatin1String(value), 0);
+    CParmLineEdit* field = new CParmLineEdit(QLatin1String(name), QLatin1String(value), nullptr);
     field->setObjectName(QLatin1String(name));
     field->setSKPType(type);
     field->setWidth(contentWidth(), Proportion1To1);
@@ -85,7 +85,8 @@ CParmComboBox* ParmScreen::addChoice(QVBoxLayout* page, const char* name, const 
     QStringList list;
     for (int i = 0; i < count; ++i)
         list.append(QLatin1String(items[i]));
-    CParmComboBox* field = new CParmComboBox(QLatin1String(name), list, QLatin1String(current), 0);
+    CParmComboBox* field =
+        new CParmComboBox(QLatin1String(name), list, QLatin1String(current), nullptr);
     field->setObjectName(QLatin1String(name));
     field->setWidth(contentWidth());
     connect(field, SIGNAL(activated(int)), this, SLOT(choiceMade(int)));
@@ -95,7 +96,7 @@ CParmComboBox* ParmScreen::addChoice(QVBoxLayout* page, const char* name, const 
 
 CParmCheckBox* ParmScreen::addSwitch(QVBoxLayout* page, const char* name, const char* text)
 {
-    CParmCheckBox* field = new CParmCheckBox(QLatin1String(name), QLatin1String(text), 0);
+    CParmCheckBox* field = new CParmCheckBox(QLatin1String(name), QLatin1String(text), nullptr);
     field->setObjectName(QLatin1String(name));
     field->setWidth(contentWidth());
     field->findChild<CLabel*>()->setFixedWidth(contentWidth() / 2); // as in the other rows

@@ -36,8 +36,8 @@ const struct {
 
 ProgressScreen::ProgressScreen(Panel* panel)
     : Screen(QLatin1String("Progress"), panel),
-      m_run(0),
-      m_button(0),
+      m_run(nullptr),
+      m_button(nullptr),
       m_timer(new QTimer(this)),
       m_value(40)
 {

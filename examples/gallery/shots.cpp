@@ -43,7 +43,7 @@ void writeKeypads(Panel* panel, ShotWriter* writer)
         panel->setHint(QString()); // what the one before has entered
         writer->expectKeypad(QLatin1String(keypads[i].name));
         touch(screen->field(keypads[i].type));
-        QApplication::sendPostedEvents(0, QEvent::DeferredDelete);
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 }
 

@@ -15,7 +15,7 @@ public:
     ShotWriter(Panel* panel, const QString& folder);
 
     bool isGood() const;
-    void write(const QString& name, QWidget* above = 0);
+    void write(const QString& name, QWidget* above = nullptr);
 
     /// The picture that the next keypad is drawn into when it has opened; it is closed then.
     void expectKeypad(const QString& name);

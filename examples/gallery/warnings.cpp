@@ -5,8 +5,8 @@
 namespace
 {
 
-void (*warningReceiver)(const QString& text) = 0;
-QtMessageHandler previousHandler = 0;
+void (*warningReceiver)(const QString& text) = nullptr;
+QtMessageHandler previousHandler = nullptr;
 
 void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {

@@ -5,8 +5,8 @@
 namespace
 {
 
-void (*warningReceiver)(const QString& text) = 0;
-QtMsgHandler previousHandler = 0;
+void (*warningReceiver)(const QString& text) = nullptr;
+QtMsgHandler previousHandler = nullptr;
 
 void handleMessage(QtMsgType type, const char* text)
 {

@@ -57,7 +57,7 @@ private:
     CPushButton* m_chosen;
 };
 
-Chooser::Chooser() : m_pages(new CPageWidget), m_choice(new CLabel), m_chosen(0)
+Chooser::Chooser() : m_pages(new CPageWidget), m_choice(new CLabel), m_chosen(nullptr)
 {
     setBackgroundColor(CWidgetStyle::getColor(CWidgetStyle::PanelBackgroundColor));
     m_pages->setSize(chooserWidth, chooserHeight);

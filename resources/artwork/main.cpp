@@ -85,7 +85,7 @@ bool saveSheet(const QList<PictureGroup>& groups, const QString& path)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     int count = 1;
     char program[] = "artwork";
-    char* arguments[] = {program, 0};
+    char* arguments[] = {program, nullptr};
     QApplication application(count, arguments);
     return save(drawContactSheet(groups), path);
 }
@@ -110,7 +110,7 @@ bool readOptions(int argc, char** argv, Options* options)
 
 int main(int argc, char** argv)
 {
-    Options options = {0, 0, 0};
+    Options options = {nullptr, nullptr, nullptr};
     if (!readOptions(argc, argv, &options)) {
         std::fprintf(stderr, "Usage: artwork OUTPUT_DIR [--contact-sheet FILE] [--hashes FILE]\n");
         return WrongUsage;

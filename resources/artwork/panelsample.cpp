@@ -172,7 +172,7 @@ const Picture* findPicture(const QList<PictureGroup>& groups, const char* name)
                 return &groups.at(i).pictures[k];
         }
     }
-    return 0;
+    return nullptr;
 }
 
 QImage cellOf(const Picture& picture, int index)

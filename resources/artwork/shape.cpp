@@ -89,7 +89,7 @@ const Command* commandOf(char letter)
             return &Commands[i];
     }
     qFatal("Unknown shape command '%c'", letter);
-    return 0;
+    return nullptr;
 }
 
 QRgb colourOf(char letter, const Scheme& scheme)

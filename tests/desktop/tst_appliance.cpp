@@ -37,7 +37,7 @@ public:
             if (qobject_cast<CPageWidget*>(bars.at(i)->parent()))
                 return bars.at(i);
         }
-        return 0;
+        return nullptr;
     }
 
     QPoint nextPage() const
@@ -104,7 +104,7 @@ void tst_appliance::initTestCase()
 void tst_appliance::init()
 {
     m_folder = new testing::TemporaryFolder;
-    m_window = 0;
+    m_window = nullptr;
 }
 
 void tst_appliance::cleanup()

@@ -160,7 +160,7 @@ void tst_keypad_touch::oneFieldAfterTheOther()
     CLineEdit* const edits[] = {fields.top, fields.rest};
     const int keys[] = {Qt::Key_4, Qt::Key_Q};
     for (int i = 0; i < 2; ++i) {
-        QWidget* parent = 0;
+        QWidget* parent = nullptr;
         KeyPadUser user([&](CSoftKeyPad* dialog) {
             QVERIFY(testcompat::waitForWindow(dialog));
             parent = dialog->parentWidget();

@@ -165,7 +165,7 @@ void tst_gallery_idle::timeOfTheTitleSleepsUntilTheNextMinute()
 {
     const QTime midnight(0, 0);
     const int before = midnight.msecsTo(QTime::currentTime());
-    const TitleStrip strip(0);
+    const TitleStrip strip(nullptr);
     const int after = midnight.msecsTo(QTime::currentTime());
     const QTimer* const timer = strip.findChild<QTimer*>();
     QVERIFY(timer->isActive() && timer->isSingleShot());

@@ -11,7 +11,8 @@ namespace testing
 /// Gives the calling thread a view of its own of what is mounted; false without the permission.
 bool FakeSystem::separate()
 {
-    return unshare(CLONE_NEWNS) == 0 && mount(0, "/", 0, MS_REC | MS_PRIVATE, 0) == 0;
+    return unshare(CLONE_NEWNS) == 0 &&
+           mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
 /// Mounts a folder with a shell and grep, and without a listing tool.
@@ -22,7 +23,8 @@ FakeSystem::FakeSystem() : m_mounted(false)
         if (!takeOver(QLatin1String(programs[i])))
             return;
     }
-    m_mounted = mount(m_folder.path().toLocal8Bit().constData(), "/usr/bin", 0, MS_BIND, 0) == 0;
+    m_mounted = mount(m_folder.path().toLocal8Bit().constData(), "/usr/bin", nullptr, MS_BIND,
+                      nullptr) == 0;
 }
 
 FakeSystem::~FakeSystem()

@@ -250,7 +250,7 @@ void tst_devicewatcher::actionInAnyCaseLeadsToSignalOnly()
 
 void tst_devicewatcher::failedSignalCallWarns()
 {
-    QDeviceWatcherPrivate parser(0);
+    QDeviceWatcherPrivate parser(nullptr);
     QStringList events;
     Receiver receiver(QLatin1String("r"), &events);
     parser.appendEventReceiver(&receiver);

@@ -77,9 +77,9 @@ void interruptSoon()
     struct sigaction action;
     memset(&action, 0, sizeof action);
     action.sa_handler = interrupted;
-    sigaction(SIGALRM, &action, 0);
+    sigaction(SIGALRM, &action, nullptr);
     const itimerval once = {{0, 0}, {0, 50000}};
-    setitimer(ITIMER_REAL, &once, 0);
+    setitimer(ITIMER_REAL, &once, nullptr);
 }
 
 } // namespace

@@ -47,7 +47,7 @@ public:
 class ReceiverMill : public QThread
 {
 public:
-    ReceiverMill() : m_handedOver(0)
+    ReceiverMill() : m_handedOver(nullptr)
     {
     }
 
@@ -71,7 +71,7 @@ public:
 
     void taken()
     {
-        m_handedOver.fetchAndStoreOrdered(0);
+        m_handedOver.fetchAndStoreOrdered(nullptr);
     }
 
 private:
@@ -149,14 +149,14 @@ void tst_devicewatcher_receivers::receiverAddedTwiceGetsTwoEvents()
 void tst_devicewatcher_receivers::nullReceiverIsHarmless()
 {
     QDeviceWatcher watcher;
-    watcher.appendEventReceiver(0);
+    watcher.appendEventReceiver(nullptr);
     QDeviceWatcherPrivate parser(&watcher);
     QStringList log;
     Receiver receiver(QLatin1String("r"), &log);
     testing::Messages messages;
-    parser.appendEventReceiver(0);
+    parser.appendEventReceiver(nullptr);
     parser.appendEventReceiver(&receiver);
-    parser.appendEventReceiver(0);
+    parser.appendEventReceiver(nullptr);
     parser.parseLine("add@/x");
     parser.parseLine("add@/y");
     QCoreApplication::sendPostedEvents();

@@ -245,7 +245,7 @@ void tst_genkeypad::nullPressKeepsAPendingShift()
 {
     CGenKeyPad grid;
     touch(keyOf(&grid, Qt::Key_Shift));
-    grid.keyPress(0);
+    grid.keyPress(nullptr);
     QCOMPARE(reported(&grid, Codes() << Qt::Key_Q), QStringList() << "Q");
 }
 

@@ -227,9 +227,9 @@ void tst_keypadfactory::withoutRangeNothingIsChecked()
 void tst_keypadfactory::parentIsTheActiveWindow()
 {
     ActiveWindow window;
-    QWidget* parent = 0;
+    QWidget* parent = nullptr;
     for (int overload = 0; overload < 3; ++overload) {
-        parent = 0;
+        parent = nullptr;
         KeyPadUser user([&](CSoftKeyPad* dialog) { parent = dialog->parentWidget(); });
         if (overload == 0)
             CKeyPadFactory::accessKeyPad("", "", CKeyPadFactory::SKP_HEX);
@@ -246,9 +246,9 @@ void tst_keypadfactory::givenParentIsTaken()
 {
     ActiveWindow window;
     QWidget child(&window);
-    QWidget* parent = 0;
+    QWidget* parent = nullptr;
     for (int overload = 0; overload < 3; ++overload) {
-        parent = 0;
+        parent = nullptr;
         KeyPadUser user([&](CSoftKeyPad* dialog) { parent = dialog->parentWidget(); });
         if (overload == 0)
             CKeyPadFactory::accessKeyPad("", "", CKeyPadFactory::SKP_HEX, &child);
@@ -362,8 +362,8 @@ void tst_keypadfactory::closedKeypadIsNoParent_data()
 void tst_keypadfactory::closedKeypadIsNoParent()
 {
     QFETCH(bool, hasWindow);
-    const QScopedPointer<ActiveWindow> window(hasWindow ? new ActiveWindow : 0);
-    QWidget* parent = 0;
+    const QScopedPointer<ActiveWindow> window(hasWindow ? new ActiveWindow : nullptr);
+    QWidget* parent = nullptr;
     QPoint place;
     testing::EventLoopCall::run([&] {
         QPointer<CSoftKeyPad> first;
@@ -387,7 +387,7 @@ void tst_keypadfactory::keypadOverAKeypad()
 {
     ActiveWindow window;
     QString inner;
-    QWidget* innerParent = 0;
+    QWidget* innerParent = nullptr;
     QPointer<CSoftKeyPad> outerDialog;
     KeyPadUser outer([&](CSoftKeyPad* dialog) {
         outerDialog = dialog;

@@ -38,7 +38,7 @@ void addRow(int min, int max, const char* entry, const char* corrected)
     QTest::newRow(qPrintable(name)) << min << max << QString(entry) << QString(corrected);
 }
 
-const char* const good = 0;
+const char* const good = nullptr;
 
 } // namespace
 

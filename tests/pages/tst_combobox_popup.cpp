@@ -51,7 +51,7 @@ bool activate(QWidget* window)
 
 bool deactivate()
 {
-    QApplication::setActiveWindow(0);
+    QApplication::setActiveWindow(nullptr);
     for (int i = 0; i < 100 && QApplication::activeWindow(); ++i)
         QTest::qWait(10);
     return !QApplication::activeWindow();

@@ -303,7 +303,7 @@ void tst_combobox_signals::keyMayDeleteTheBoxLater()
         Reaction reaction(box, ownSignals[i], [box]() { box->deleteLater(); });
         QTest::keyClick(box, Qt::Key_Down);
         f.touch(4);
-        QCoreApplication::sendPostedEvents(0, QEvent::DeferredDelete);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY2(!f.box, ownSignals[i]);
     }
 }

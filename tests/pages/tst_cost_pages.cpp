@@ -83,7 +83,7 @@ CPageListWidgetItem* visibleRow(const CPageListWidget& list)
         if (rows.at(i)->isVisible())
             return rows.at(i);
     }
-    return 0;
+    return nullptr;
 }
 
 } // namespace

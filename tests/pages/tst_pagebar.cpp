@@ -62,7 +62,7 @@ void tst_pagebar::newBarHasNoPages()
 
 void tst_pagebar::horizontalBarHasItsArrowsSideBySide()
 {
-    CPageBar bar(0, CWidgetStyle::HorizontalPageBar);
+    CPageBar bar(nullptr, CWidgetStyle::HorizontalPageBar);
     QCOMPARE(bar.size(), QSize(150, 30));
     QCOMPARE(bar.minimumSize(), bar.maximumSize());
     QCOMPARE(bar.layout()->spacing(), 100);
@@ -76,7 +76,7 @@ void tst_pagebar::horizontalBarHasItsArrowsSideBySide()
 
 void tst_pagebar::verticalBarHasItsArrowsOneOverTheOther()
 {
-    CPageBar bar(0, CWidgetStyle::VerticalPageBar);
+    CPageBar bar(nullptr, CWidgetStyle::VerticalPageBar);
     QCOMPARE(bar.width(), 24);
     QCOMPARE(bar.minimumWidth(), 24);
     QCOMPARE(bar.maximumWidth(), 24);
@@ -93,7 +93,7 @@ void tst_pagebar::verticalBarHasItsArrowsOneOverTheOther()
 
 void tst_pagebar::everyOtherTypeIsVertical()
 {
-    CPageBar bar(0, static_cast<CWidgetStyle::PageBarType>(3));
+    CPageBar bar(nullptr, static_cast<CWidgetStyle::PageBarType>(3));
     QCOMPARE(bar.minimumWidth(), 24);
     QCOMPARE(arrow(bar, 0)->size(), QSize(24, 40));
 }
@@ -224,7 +224,7 @@ void tst_pagebar::arrowsTurnPagesAndWrap()
 
 void tst_pagebar::arrowUpGoesForward()
 {
-    CPageBar bar(0, CWidgetStyle::VerticalPageBar);
+    CPageBar bar(nullptr, CWidgetStyle::VerticalPageBar);
     addPages(&bar, 3);
     bar.resize(24, 300);
     bar.layout()->activate();

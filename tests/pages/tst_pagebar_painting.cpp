@@ -140,7 +140,7 @@ void tst_pagebar_painting::turnedText_data()
 void tst_pagebar_painting::turnedText()
 {
     QFETCH(int, height);
-    CPageBar bar(0, vertical);
+    CPageBar bar(nullptr, vertical);
     hideArrows(&bar);
     bar.resize(24, height);
     bar.addPage();
@@ -151,7 +151,7 @@ void tst_pagebar_painting::turnedText()
 void tst_pagebar_painting::arrowsShowTheirPictures()
 {
     for (size_t i = 0; i < sizeof arrows / sizeof arrows[0]; ++i) {
-        CPageBar bar(0, arrows[i].type);
+        CPageBar bar(nullptr, arrows[i].type);
         bar.setBackgroundColor(Qt::white);
         CPushButton* button = arrow(bar, arrows[i].arrow);
         const QPixmap released = CWidgetStyle::getPageSwitchStatus(arrows[i].released);

@@ -289,12 +289,12 @@ void tst_pagewidget::removePageOutOfRange()
 void tst_pagewidget::nullPagesAreIgnored()
 {
     CPageWidget pages;
-    pages.addPage(0);
-    pages.insertPage(0, 0);
+    pages.addPage(nullptr);
+    pages.insertPage(0, nullptr);
     QCOMPARE(pages.count(), 0);
     QCOMPARE(stackOf(pages)->count(), 0);
     pages.setCurrentPage(0);
-    pages.updateParm(0, 1);
+    pages.updateParm(nullptr, 1);
     QCOMPARE(pages.currentIndex(), -1);
 }
 

@@ -219,7 +219,7 @@ void tst_pagewidget_hiding::pagesDeletedWhileHidden()
     pages.openPageAutoUpdate(1);
     delete page;
     QCOMPARE(pages.hideCount(), 0);
-    pages.updateParm(0, 1);
+    pages.updateParm(nullptr, 1);
     pages.showPage(1);
     QCOMPARE(numbersOf(pages), text("0 2"));
     QCOMPARE(pages.count(), 2);

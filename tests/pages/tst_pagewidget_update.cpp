@@ -7,7 +7,7 @@ namespace
 {
 
 QStringList deliveries; // of all pages, in their order
-void* lastData = 0;
+void* lastData = nullptr;
 unsigned int lastSize = 0;
 
 void deliver(const QString& name, void* data, unsigned int size)
@@ -111,7 +111,7 @@ private Q_SLOTS:
 void tst_pagewidget_update::init()
 {
     deliveries.clear();
-    lastData = 0;
+    lastData = nullptr;
     lastSize = 0;
 }
 
@@ -119,7 +119,7 @@ void tst_pagewidget_update::pageOnScreenIsUpdated()
 {
     CPageWidget pages;
     addPages(&pages);
-    pages.updateParm(0, 1);
+    pages.updateParm(nullptr, 1);
     QCOMPARE(taken(), text("a"));
     pages.setCurrentPage(1);
     QCOMPARE(taken(), text("b"));
@@ -143,7 +143,7 @@ void tst_pagewidget_update::everyPageChangeUpdatesWithNothingOf1024()
     lastData = &data;
     pages.setCurrentPage(2);
     QCOMPARE(taken(), text("c"));
-    QCOMPARE(lastData, static_cast<void*>(0));
+    QCOMPARE(lastData, static_cast<void*>(nullptr));
     QCOMPARE(lastSize, 1024u);
     pages.setCurrentPage(2); // the same page again
     QCOMPARE(taken(), text("c"));
@@ -158,7 +158,7 @@ void tst_pagewidget_update::registeredPagesAreUpdatedInOrderOfRegistration()
     pages.openPageAutoUpdate(2);
     pages.openPageAutoUpdate(1);
     pages.openPageAutoUpdate(2); // listed already
-    pages.updateParm(0, 1);
+    pages.updateParm(nullptr, 1);
     QCOMPARE(taken(), text("c b a"));
 }
 
@@ -168,7 +168,7 @@ void tst_pagewidget_update::registeringAllKeepsTheOrderOfEarlierOnes()
     addPages(&pages);
     pages.openPageAutoUpdate(1);
     pages.openPageAutoUpdate(-1);
-    pages.updateParm(0, 1);
+    pages.updateParm(nullptr, 1);
     QCOMPARE(taken(), text("b a c"));
 }
 
@@ -179,10 +179,10 @@ void tst_pagewidget_update::registrationIsBounded()
     pages.openPageAutoUpdate(3); // not below the count
     pages.openPageAutoUpdate(2147483647);
     pages.addPage(new Page("d"));
-    pages.updateParm(0, 1);
+    pages.updateParm(nullptr, 1);
     QCOMPARE(taken(), text("a"));
     pages.openPageAutoUpdate(3);
-    pages.updateParm(0, 1);
+    pages.updateParm(nullptr, 1);
     QCOMPARE(taken(), text("d a"));
 }
 
@@ -192,10 +192,10 @@ void tst_pagewidget_update::unregistering()
     addPages(&pages);
     pages.openPageAutoUpdate(-1);
     pages.closePageAutoUpdate(1);
-    pages.updateParm(0, 1);
+    pages.updateParm(nullptr, 1);
     QCOMPARE(taken(), text("a c"));
     pages.closePageAutoUpdate(3); // not below the count
-    pages.updateParm(0, 1);
+    pages.updateParm(nullptr, 1);
     QCOMPARE(taken(), text("a c"));
     pages.closePageAutoUpdate(-1);
     pages.setCurrentPage(1);
@@ -209,11 +209,11 @@ void tst_pagewidget_update::unregisteringIsBounded()
     pages.openPageAutoUpdate(2);
     pages.hidePage(0); // the bar counts 2, and c is still numbered 2
     pages.closePageAutoUpdate(2);
-    pages.updateParm(0, 1);
+    pages.updateParm(nullptr, 1);
     QCOMPARE(taken(), text("c b"));
     pages.showPage(0);
     pages.closePageAutoUpdate(2);
-    pages.updateParm(0, 1);
+    pages.updateParm(nullptr, 1);
     QCOMPARE(taken(), text("b"));
 }
 
@@ -243,7 +243,7 @@ void tst_pagewidget_update::repeatedNumbersAreAllUpdated()
     addPages(&pages);
     pages.insertPage(1, new Page("x"));
     pages.openPageAutoUpdate(1);
-    pages.updateParm(0, 1);
+    pages.updateParm(nullptr, 1);
     QCOMPARE(taken(), text("x b a"));
 }
 
@@ -254,22 +254,22 @@ void tst_pagewidget_update::hiddenPagesAreUpdatedOnlyWithoutAStackedOne()
     pages.insertPage(1, new Page("x")); // a x b c, numbered 0 1 1 2
     pages.openPageAutoUpdate(1);
     pages.hidePage(1); // x; b stays
-    pages.updateParm(0, 1);
+    pages.updateParm(nullptr, 1);
     QCOMPARE(taken(), text("b a"));
     pages.hidePage(1);
-    pages.updateParm(0, 1);
+    pages.updateParm(nullptr, 1);
     QCOMPARE(taken(), text("x b a"));
 }
 
 void tst_pagewidget_update::emptyStackUpdatesRegisteredHiddenPages()
 {
     CPageWidget pages;
-    pages.updateParm(0, 1); // nothing but a null entry
+    pages.updateParm(nullptr, 1); // nothing but a null entry
     QCOMPARE(taken(), text(""));
     pages.addPage(new Page("a"));
     pages.openPageAutoUpdate(0);
     pages.hidePage(0);
-    pages.updateParm(0, 1); // the null entry comes behind it
+    pages.updateParm(nullptr, 1); // the null entry comes behind it
     QCOMPARE(taken(), text("a"));
 }
 
@@ -300,7 +300,7 @@ void tst_pagewidget_update::pagesMayDieWhileTheyAreUpdated()
     pages.addPage(doomed);
     pages.addPage(new Page("last"));
     pages.openPageAutoUpdate(-1);
-    pages.updateParm(0, 1);
+    pages.updateParm(nullptr, 1);
     QCOMPARE(taken(), text("deleting last"));
 }
 
@@ -313,8 +313,8 @@ void tst_pagewidget_update::pageWidgetMayDieWhileItUpdates()
     whole->addPage(new Page("never"));
     whole->openPageAutoUpdate(-1);
     whole->hidePage(0);
-    killer->setParent(0); // it survives the page widget, which still updates it
-    whole->updateParm(0, 1);
+    killer->setParent(nullptr); // it survives the page widget, which still updates it
+    whole->updateParm(nullptr, 1);
     QVERIFY(!guard);
     QCOMPARE(taken(), text("deleting"));
     delete killer;

@@ -410,7 +410,7 @@ const Exception* exceptionOf(const List& list, const QString& thing)
             thing == QLatin1String(exceptions[i].thing))
             return &exceptions[i];
     }
-    return 0;
+    return nullptr;
 }
 
 const List* listOf(const Exception& exception)
@@ -419,7 +419,7 @@ const List* listOf(const Exception& exception)
         if (qstrcmp(exception.list, lists[i].name) == 0)
             return &lists[i];
     }
-    return 0;
+    return nullptr;
 }
 
 } // namespace

@@ -83,7 +83,7 @@ QWidget* makeNamed(const QByteArray& name, QWidget* parent)
             return makers[i].make(parent);
     }
     qFatal("no class %s", name.constData());
-    return 0;
+    return nullptr;
 }
 
 // Every property of a class of its own, its value in a new widget, and another one.

@@ -47,7 +47,7 @@ void tst_cost_style::widgetsReadNoFile()
     const testing::FileReads reads;
     for (int i = 0; i < 100; ++i) {
         CLabel label;
-        CWidgetStyle::getWidgetStyle(QLatin1String("CLabel"), 0);
+        CWidgetStyle::getWidgetStyle(QLatin1String("CLabel"), nullptr);
         label.updateWidgetStyle();
     }
     QCOMPARE(reads.files(), QList<QByteArray>());

@@ -37,8 +37,8 @@ struct FontRow {
 };
 
 const FontRow fonts[] = {
-    {0, "Arial", 0}, {1, "Helvetica", 12}, {2, 0, 13}, {3, 0, 13},
-    {4, 0, 16},      {5, 0, 10},           {6, 0, 13},
+    {0, "Arial", 0},  {1, "Helvetica", 12}, {2, nullptr, 13}, {3, nullptr, 13},
+    {4, nullptr, 16}, {5, nullptr, 10},     {6, nullptr, 13},
 };
 
 QColor color(int code)

@@ -59,7 +59,7 @@ const ColorRow colorRows[] = {
     {"name",           "steelblue",   true,  0xFF4682B4},
     {"unknown name",   "no colour",   false, 0},
     {"empty",          "",            false, 0},
-    {"absent",         0,             false, 0},
+    {"absent",         nullptr,       false, 0},
     {"no hash sign",   "635E80",      false, 0},
     {"wrong digits",   "#GGGGGG",     false, 0},
     {"number",         "12",          false, 0},
@@ -101,7 +101,7 @@ bool read(const QByteArray& content)
     return CWidgetStyle::initialize(folder.write(QLatin1String("style.xml"), content));
 }
 
-WidgetStyle entry(const char* name, bool* ok = 0)
+WidgetStyle entry(const char* name, bool* ok = nullptr)
 {
     return CWidgetStyle::getWidgetStyle(QString::fromLatin1(name), ok);
 }
@@ -430,12 +430,12 @@ void tst_widgetstyle::okMayBeNull()
 {
     QVERIFY(read(file("<widget type=\"815\" name=\"Nullable\"/>")));
     Messages messages;
-    QCOMPARE(CWidgetStyle::getWidgetStyle(QLatin1String("Nullable"), 0).type, 815u);
-    QCOMPARE(CWidgetStyle::getWidgetStyle(QLatin1String("Missing"), 0).type, 0u);
+    QCOMPARE(CWidgetStyle::getWidgetStyle(QLatin1String("Nullable"), nullptr).type, 815u);
+    QCOMPARE(CWidgetStyle::getWidgetStyle(QLatin1String("Missing"), nullptr).type, 0u);
     unsigned int type = 815;
-    QCOMPARE(CWidgetStyle::getWidgetStyle(type, 0).name, QString::fromLatin1("Nullable"));
+    QCOMPARE(CWidgetStyle::getWidgetStyle(type, nullptr).name, QString::fromLatin1("Nullable"));
     type = 816;
-    QVERIFY(CWidgetStyle::getWidgetStyle(type, 0).name.isEmpty());
+    QVERIFY(CWidgetStyle::getWidgetStyle(type, nullptr).name.isEmpty());
 }
 
 void tst_widgetstyle::recordsAreCopies()
@@ -479,8 +479,8 @@ void tst_widgetstyle::getStyleAcceptsANullFlag()
 {
     QDomDocument document;
     QVERIFY(document.setContent(QByteArray("<FieldAll/>")));
-    QCOMPARE(getStyle(0, Style::FieldAll, document.documentElement()).field, Style::FieldAll);
-    QVERIFY(isDefault(getStyle(0, Style::FieldAll, QDomElement()).font));
+    QCOMPARE(getStyle(nullptr, Style::FieldAll, document.documentElement()).field, Style::FieldAll);
+    QVERIFY(isDefault(getStyle(nullptr, Style::FieldAll, QDomElement()).font));
 }
 
 void tst_widgetstyle::exampleFile()

@@ -190,7 +190,7 @@ CKeyButton* keyOf(const QWidget* widget, int code)
             return keys.at(i);
     }
     qFatal("no key of code 0x%x", code);
-    return 0;
+    return nullptr;
 }
 
 QStringList textsOf(const QList<CKeyButton*>& keys)
@@ -236,7 +236,7 @@ void pressAgain(QWidget* key)
 
 void deleteDeferred()
 {
-    QCoreApplication::sendPostedEvents(0, QEvent::DeferredDelete);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 // ---- KeyPadUser

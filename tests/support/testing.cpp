@@ -91,7 +91,7 @@ QByteArray contentOf(const QString& path)
 
 // ---- Messages
 
-Messages* Messages::s_current = 0;
+Messages* Messages::s_current = nullptr;
 
 Messages::Messages()
 {
@@ -101,8 +101,8 @@ Messages::Messages()
 
 Messages::~Messages()
 {
-    testcompat::receiveMessages(0);
-    s_current = 0;
+    testcompat::receiveMessages(nullptr);
+    s_current = nullptr;
 }
 
 void Messages::receive(QtMsgType type, const QString& text)

@@ -35,7 +35,7 @@ void end(pid_t pid)
     if (pid <= 0)
         return;
     kill(pid, SIGTERM);
-    waitpid(pid, 0, 0);
+    waitpid(pid, nullptr, 0);
 }
 
 /// The number of the display that the server writes when it is ready.
@@ -65,7 +65,7 @@ XServer::XServer() : m_server(-1), m_manager(-1)
         return;
     }
     const char* const server[] = {"Xvfb",        "-displayfd", "1",   "-screen", "0",
-                                  "1024x768x24", "-nolisten",  "tcp", 0};
+                                  "1024x768x24", "-nolisten",  "tcp", nullptr};
     m_server = spawn(server, ends[1]);
     close(ends[1]);
     const QByteArray display = readLine(ends[0]);
@@ -77,10 +77,10 @@ XServer::XServer() : m_server(-1), m_manager(-1)
     setenv("DISPLAY", (":" + display).constData(), 1);
     setenv("QT_QPA_PLATFORM", "xcb", 1);
     setenv("QT_XCB_GL_INTEGRATION", "none", 1); // widgets need none, and its drivers leak
-    const char* const manager[] = {"openbox", "--sm-disable", 0};
+    const char* const manager[] = {"openbox", "--sm-disable", nullptr};
     m_manager = spawn(manager, -1);
     usleep(200000);
-    if (waitpid(m_manager, 0, WNOHANG) != 0) {
+    if (waitpid(m_manager, nullptr, WNOHANG) != 0) {
         m_manager = -1;
         m_error = QString::fromLatin1("openbox does not start; ./test.sh installs what is needed");
     }

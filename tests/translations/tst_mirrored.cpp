@@ -48,7 +48,7 @@ QWidget* comboBox(const QString& text)
 
 QWidget* row(const QString& text)
 {
-    CPageListWidgetItem* const item = new CPageListWidgetItem(text, 0);
+    CPageListWidgetItem* const item = new CPageListWidgetItem(text, nullptr);
     item->setSize(size);
     return item;
 }
@@ -56,7 +56,7 @@ QWidget* row(const QString& text)
 template <class Field>
 QWidget* field(const QString& text)
 {
-    Field* const field = new Field(QLatin1String("Name"), text, 0);
+    Field* const field = new Field(QLatin1String("Name"), text, nullptr);
     field->setWidth(size.width());
     return field;
 }
@@ -64,7 +64,7 @@ QWidget* field(const QString& text)
 QWidget* choice(const QString& text)
 {
     CParmComboBox* const field =
-        new CParmComboBox(QLatin1String("Name"), QStringList(text), text, 0);
+        new CParmComboBox(QLatin1String("Name"), QStringList(text), text, nullptr);
     field->setWidth(size.width());
     return field;
 }

@@ -45,7 +45,7 @@ const struct Language {
     const char* page;
 } languages[] = {
     // clang-format off
-    {0,       "Del",  "Del All", "Apply",  "Shift", "Caps", "Symbol",  "SPACE",     "Page %1 of %2"},
+    {nullptr, "Del",  "Del All", "Apply",  "Shift", "Caps", "Symbol",  "SPACE",     "Page %1 of %2"},
     {"de",    "Entf", "Leeren",  "Fertig", "Umsch", "Fest", "Symbole", "Leertaste", "Seite %1/%2"},
     {"zh_CN", "删除",  "清空",     "确定",    "上档",   "大写",  "符号",     "空格",       "第 %1/%2 页"},
     // clang-format on
@@ -85,7 +85,7 @@ CKeyButton* keyOf(QWidget* grid, int code)
         if (keys.at(i)->key() == code)
             return keys.at(i);
     }
-    return 0;
+    return nullptr;
 }
 
 /// The captions of \a grid that a language has of its own; those that it lacks are empty.
@@ -236,9 +236,9 @@ void tst_translations::templateHasEveryText()
     int finished = 0;
     const QStringList now = sourcesOf(testing::contentOf(file), &finished);
     QVERIFY(now.size() > 8);
-    QCOMPARE(sourcesOf(fileOf(0), &finished), now);
+    QCOMPARE(sourcesOf(fileOf(nullptr), &finished), now);
     QCOMPARE(finished, 0);
-    QVERIFY(fileOf(0).contains("<extracomment>"));
+    QVERIFY(fileOf(nullptr).contains("<extracomment>"));
 }
 
 void tst_translations::languagesAreComplete_data()
@@ -252,7 +252,7 @@ void tst_translations::languagesAreComplete()
     if (!languages[index].name)
         return;
     int finished = 0;
-    const QStringList wanted = sourcesOf(fileOf(0), &finished);
+    const QStringList wanted = sourcesOf(fileOf(nullptr), &finished);
     QCOMPARE(sourcesOf(fileOf(languages[index].name), &finished), wanted);
     QCOMPARE(finished, static_cast<int>(wanted.size()));
 }
@@ -413,7 +413,7 @@ void tst_translations::nothingLeavesItsWidgetFromRightToLeft()
     check->setWidth(300);
     CPageBar* const bar = new CPageBar; // at its first size the arrows need two pixels more
     bar->setSize(220, bar->height());
-    QWidget* const widgets[] = {pages, label, edit, combo, check, bar, new CNumKeyPad(0)};
+    QWidget* const widgets[] = {pages, label, edit, combo, check, bar, new CNumKeyPad(nullptr)};
     for (size_t i = 0; i < sizeof widgets / sizeof widgets[0]; ++i)
         layout->addWidget(widgets[i]);
     CSoftKeyPad keypad(CKeyPadFactory::SKP_GENERAL);

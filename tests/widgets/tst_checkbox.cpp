@@ -319,7 +319,7 @@ public Q_SLOTS:
     void deleteBox()
     {
         delete m_box;
-        m_box = 0;
+        m_box = nullptr;
     }
 
 private:

@@ -109,7 +109,7 @@ void tst_graphicsview::updateParmDoesNothing()
     view.show();
     QVERIFY(testcompat::waitForWindow(&view));
     const QImage before = renderViewport(&view);
-    view.updateParm(0, 1024);
+    view.updateParm(nullptr, 1024);
     CWIDGET_COMPARE_IMAGES(renderViewport(&view), before);
 }
 

@@ -200,7 +200,7 @@ QFont randomFont(Random* random)
 {
     static const char* const families[] = {
         "Arial", "Arial", "Arial", "DejaVu Sans", "Liberation Serif", "DejaVu Sans Mono"};
-    QFont font(QLatin1String(families[random->below(6)]));
+    QFont font((QLatin1String(families[random->below(6)])));
     font.setPixelSize(6 + random->below(22));
     font.setBold(random->below(3) == 0);
     font.setItalic(random->below(6) == 0);

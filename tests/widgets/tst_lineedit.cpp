@@ -231,7 +231,7 @@ void tst_lineedit::touchOpensTheKeypad()
     edit.setText("12");
     QString title;
     QString text;
-    QWidget* parent = 0;
+    QWidget* parent = nullptr;
     KeyPadUser user([&](CSoftKeyPad* dialog) {
         title = dialog->findChild<CTopTitleArea*>()->title();
         text = dialog->getInput();

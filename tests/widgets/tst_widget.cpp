@@ -21,7 +21,7 @@ class Recorder : public CWidget
     Q_OBJECT
 
 public:
-    explicit Recorder(QWidget* parent = 0) : CWidget(parent)
+    explicit Recorder(QWidget* parent = nullptr) : CWidget(parent)
     {
     }
 
@@ -161,7 +161,7 @@ void tst_widget::virtualsThatDoNothing()
     CWidget widget;
     widget.setSize(20, 10);
     const QImage before = render(&widget);
-    widget.updateParm(0, 1024);
+    widget.updateParm(nullptr, 1024);
     widget.clientWndStateChanged(3);
     CWIDGET_COMPARE_IMAGES(render(&widget), before);
     QCOMPARE(widget.size(), QSize(20, 10));

@@ -92,7 +92,7 @@ void tst_widgetstack::pushChecksNothing()
     QWidget widget;
     stack()->push(&widget);
     stack()->push(&widget);
-    stack()->push(0);
+    stack()->push(nullptr);
     QCOMPARE(stack()->size(), 3);
     QVERIFY(!stack()->top());
     QVERIFY(!widget.isVisible());
@@ -220,7 +220,7 @@ void tst_widgetstack::popOfANullEntry()
 {
     Panel panel;
     panel.a.show();
-    stack()->push(0);
+    stack()->push(nullptr);
     QVERIFY(!stack()->pop());
     QCOMPARE(stack()->size(), 1);
     QVERIFY(panel.a.isVisible());
@@ -231,7 +231,7 @@ void tst_widgetstack::popOfANullEntry()
 void tst_widgetstack::popOntoANullEntry()
 {
     Panel panel;
-    stack()->push(0);
+    stack()->push(nullptr);
     panel.a.show();
     QCOMPARE(stack()->size(), 2);
     QCOMPARE(stack()->pop(), static_cast<QWidget*>(&panel.a));

@@ -141,7 +141,7 @@ QWidget* clockProgress()
 
 QWidget* pageBar()
 {
-    CPageBar* const sample = new CPageBar(0, CWidgetStyle::HorizontalPageBar);
+    CPageBar* const sample = new CPageBar(nullptr, CWidgetStyle::HorizontalPageBar);
     sample->setSize(220, 30);
     for (int i = 0; i < 3; ++i)
         sample->addPage();
@@ -162,7 +162,7 @@ QWidget* pageWidget()
 
 QWidget* pageListWidgetItem()
 {
-    CPageListWidgetItem* const sample = new CPageListWidgetItem(latin1("Holiday"), 0);
+    CPageListWidgetItem* const sample = new CPageListWidgetItem(latin1("Holiday"), nullptr);
     sample->setSize(rowWidth, 28);
     sample->setHoverIn();
     return sample;
@@ -171,7 +171,7 @@ QWidget* pageListWidgetItem()
 QWidget* pageListWidgetHeader()
 {
     CPageListWidgetHeader* const sample =
-        new CPageListWidgetHeader(latin1("Mode"), latin1("Holiday"), 0);
+        new CPageListWidgetHeader(latin1("Mode"), latin1("Holiday"), nullptr);
     sample->setSize(rowWidth, 60);
     return sample;
 }

@@ -59,13 +59,13 @@ void check(bool good, const char* what)
 class Screen
 {
 public:
-    Screen() : m_pixels(0), m_lineLength(0)
+    Screen() : m_pixels(nullptr), m_lineLength(0)
     {
         const int file = open("/dev/fb0", O_RDONLY);
         fb_fix_screeninfo info;
         check(file >= 0 && ioctl(file, FBIOGET_FSCREENINFO, &info) == 0, "/dev/fb0");
         m_lineLength = info.line_length;
-        void* const memory = mmap(0, info.smem_len, PROT_READ, MAP_SHARED, file, 0);
+        void* const memory = mmap(nullptr, info.smem_len, PROT_READ, MAP_SHARED, file, 0);
         check(memory != MAP_FAILED, "mapping /dev/fb0");
         m_pixels = static_cast<const unsigned char*>(memory);
     }
