@@ -36,6 +36,15 @@ bool isSameColor(QRgb a, QRgb b)
            qAbs(qBlue(a) - qBlue(b)) <= tolerance && qAbs(qAlpha(a) - qAlpha(b)) <= tolerance;
 }
 
+/// Multiplied with the alpha channel as soon as one of the pictures is: to divide by it again gives
+/// other roundings on other processors.
+QImage::Format commonFormat(const QImage& a, const QImage& b)
+{
+    const QImage::Format multiplied = QImage::Format_ARGB32_Premultiplied;
+    return a.format() == multiplied || b.format() == multiplied ? multiplied
+                                                                : QImage::Format_ARGB32;
+}
+
 } // namespace
 
 QString difference(const QImage& actual, const QImage& expected)
@@ -46,8 +55,9 @@ QString difference(const QImage& actual, const QImage& expected)
             .arg(actual.height())
             .arg(expected.width())
             .arg(expected.height());
-    const QImage a = actual.convertToFormat(QImage::Format_ARGB32);
-    const QImage b = expected.convertToFormat(QImage::Format_ARGB32);
+    const QImage::Format format = commonFormat(actual, expected);
+    const QImage a = actual.convertToFormat(format);
+    const QImage b = expected.convertToFormat(format);
     for (int y = 0; y < a.height(); ++y) {
         for (int x = 0; x < a.width(); ++x) {
             if (isSameColor(a.pixel(x, y), b.pixel(x, y)))
