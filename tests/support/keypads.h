@@ -71,6 +71,17 @@ void pressAgain(QWidget* key);
 /// Deletes what waits for being deleted.
 void deleteDeferred();
 
+/// How many widgets of this class there are, shown or not.
+template <typename Class>
+int livingWidgets()
+{
+    int count = 0;
+    const QWidgetList widgets = testcompat::allWidgets();
+    for (int i = 0; i < widgets.size(); ++i)
+        count += qobject_cast<Class*>(widgets.at(i)) ? 1 : 0;
+    return count;
+}
+
 /// Takes what the current keypad of the event loop offers: calls an action with it as soon as it is
 /// on screen, and rejects it afterwards when it is still open.
 class KeyPadUser : public QObject
@@ -84,7 +95,7 @@ public:
 
     int opened() const;
 
-    /// Does not reject it: whoever opened it must get away by another way.
+    /// Does not reject it: something else must close it.
     void leaveOpen();
 
 private Q_SLOTS:
