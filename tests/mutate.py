@@ -108,21 +108,23 @@ def copy_tree():
         shutil.copy2(source, target)
 
 
-def programs(tests):
-    """The programs that the tests of the expression need, as far as they have one of their name."""
+def targets_of(tests):
+    """The library and the programs of the tests. A test that is no program of its name installs
+    what is built, or runs a script: it gets all that stands beside the tests."""
     listed = subprocess.run(["ctest", "--test-dir", BUILD, "-N", "-R", tests],
                             capture_output=True, text=True, check=True).stdout
-    names = [line.split(": ", 1)[1] for line in listed.splitlines() if " Test " in line]
+    names = {line.split(": ", 1)[1] for line in listed.splitlines() if " Test " in line}
     if not names:
         sys.exit("no test is called %s" % tests)
     targets = subprocess.run(["ninja", "-C", BUILD, "-t", "targets", "all"], capture_output=True,
                              text=True, check=True).stdout
     known = {line.split(":")[0] for line in targets.splitlines()}
-    return ["cwidget"] + sorted(name for name in names if name in known)
+    beside = {target for target in known if target.endswith("/all") and target[:5] != "tests"}
+    return ["cwidget"] + sorted(names & known | (beside if names - known else set()))
 
 
 def passes(tests):
-    return (succeeds("cmake", "--build", BUILD, "--target", *programs(tests)) and
+    return (succeeds("cmake", "--build", BUILD, "--target", *targets_of(tests)) and
             succeeds("ctest", "--test-dir", BUILD, "-R", tests, "-j2"))
 
 

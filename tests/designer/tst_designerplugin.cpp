@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/testing.h"
 
 #include "keypad/keypadfactory.h"
@@ -293,6 +294,7 @@ void tst_designerplugin::loadedFormLooksLikeWidgetsMadeByHand()
     const QImage handmade = lookOf(&form);
     const QList<QWidget*> widgets = QList<QWidget*>() << button << label << bar << field;
     for (int i = 0; i < widgets.size(); ++i) {
+        const testing::InRow inRow(i);
         const QRect place = widgets.at(i)->geometry();
         CWIDGET_COMPARE_IMAGES(loaded.copy(place), handmade.copy(place));
     }

@@ -1,6 +1,7 @@
 #include "gallerywindow.h"
 
 #include "support/desktopmain.h"
+#include "support/rows.h"
 
 namespace
 {
@@ -74,6 +75,7 @@ void tst_gallery::menuChangesTheScreen()
     QVERIFY(window.waitUntilShown());
     const char* const names[] = {"theme", "pictures", "controls"};
     for (size_t i = 0; i < sizeof names / sizeof names[0]; ++i) {
+        const testing::InRow inRow(names[i]);
         const int entry = entryOf(latin(names[i]));
         QVERIFY(entry >= 0);
         window.click(menu(entry));
@@ -157,6 +159,7 @@ void tst_gallery::unknownArgumentsAreRefused()
         QStringList() << latin("--screen") << latin("nonsense"),
     };
     for (size_t i = 0; i < sizeof wrong / sizeof wrong[0]; ++i) {
+        const testing::InRow inRow(i);
         QProcess process;
         process.start(latin(GALLERY), wrong[i]);
         QVERIFY(process.waitForFinished(15000));

@@ -1,6 +1,7 @@
 #include "extremes/touches.h"
 #include "hotplug/devicewatcher_p.h"
 #include "samples.h"
+#include "support/rows.h"
 #include "support/testing.h"
 
 #include <QMetaMethod>
@@ -188,6 +189,7 @@ void tst_deletion::watcherInsideItsSignals()
 {
     const char* const lines[] = {"add@/devices/x", "remove@/devices/x", "change@/devices/x"};
     for (const char* line : lines) {
+        const testing::InRow inRow(line);
         QPointer<QDeviceWatcher> watcher(new QDeviceWatcher);
         QDeviceWatcherPrivate source(watcher.data());
         const Listener listener(watcher.data(), 0);

@@ -1,5 +1,6 @@
 #include "extremes/sharpness.h"
 #include "samples.h"
+#include "support/rows.h"
 #include "support/testing.h"
 
 #include <QPainter>
@@ -123,6 +124,8 @@ void tst_sizes::smallAndLarge()
     const QSize sizes[] = {QSize(0, 0), QSize(1, 1), QSize(1, 4000), QSize(4000, 1),
                            QSize(4000, 4000)};
     for (const QSize& size : sizes) {
+        const testing::InRow inRow(
+            QString::fromLatin1("%1 x %2").arg(size.width()).arg(size.height()));
         const testing::Messages messages;
         QWidget window; // whose parts may be smaller than their layouts want
         QWidget* const widget = samples::create(name);
@@ -188,6 +191,7 @@ void tst_sizes::blurIsFound()
     Blurred widget;
     const QImage plain = paintedPlainly(&widget);
     for (qreal ratio : ratios) {
+        const testing::InRow inRow(QByteArray::number(ratio));
         const QImage larger = sharpness::paintedAt(&widget, ratio);
         QCOMPARE(sharpness::kept(plain, larger, ratio) > leastSharpness, ratio == 1);
     }
@@ -198,6 +202,7 @@ void tst_sizes::misplacedPicturesAreFound()
     Misplaced widget;
     const QImage plain = paintedPlainly(&widget);
     for (qreal ratio : ratios) {
+        const testing::InRow inRow(QByteArray::number(ratio));
         const QImage larger = sharpness::paintedAt(&widget, ratio);
         QCOMPARE(sharpness::farthest(plain, larger) < farthestInPlace, ratio == 1);
     }

@@ -2,6 +2,7 @@
 #include "keypad/keybutton.h"
 #include "languagebutton.h"
 #include "panel.h"
+#include "support/rows.h"
 #include "support/testing.h"
 
 class tst_gallery_language : public QObject
@@ -26,6 +27,7 @@ void tst_gallery_language::buttonSwitchesTheLanguage()
     const char* const steps[][2] = {
         {"EN", "SPACE"}, {"DE", "Leertaste"}, {"ZH", "空格"}, {"EN", "SPACE"}};
     for (size_t i = 0; i < sizeof steps / sizeof steps[0]; ++i) {
+        const testing::InRow inRow(steps[i][0]);
         QCOMPARE(button->getText(), QString::fromUtf8(steps[i][0]));
         QCOMPARE(space->getText(), QString::fromUtf8(steps[i][1]));
         QTest::mouseClick(button, Qt::LeftButton);

@@ -1,4 +1,5 @@
 #include "hotplug/devicewatcher_p.h"
+#include "support/rows.h"
 
 #include "hotplug/hotplugtesting.h"
 
@@ -130,6 +131,7 @@ void tst_devicewatcher_reading::datagramIsCutAtItsLimit()
     FakeKernel kernel(ueventSockets().at(0));
     const int lengths[] = {4095, 4096, 4097, 8192, 60000, 12};
     for (size_t i = 0; i < sizeof lengths / sizeof lengths[0]; ++i) {
+        const testing::InRow inRow(i);
         log.entries.clear();
         QVERIFY(kernel.send("remove@" + QByteArray(lengths[i] - 7, 'x')));
         QVERIFY(testing::waitUntil([&] { return !log.entries.isEmpty(); }));

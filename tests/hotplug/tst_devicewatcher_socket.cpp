@@ -1,4 +1,5 @@
 #include "hotplug/devicewatcher_p.h"
+#include "support/rows.h"
 
 #include "hotplug/hotplugtesting.h"
 
@@ -258,8 +259,10 @@ void tst_devicewatcher_socket::manyStartsAndStopsLeaveDisabledNotifiers()
     QCOMPARE(testing::openDescriptors(), before);
     const QList<QSocketNotifier*> notifiers = socket->findChildren<QSocketNotifier*>();
     QCOMPARE(static_cast<int>(notifiers.size()), 1000);
-    for (int i = 0; i < notifiers.size(); ++i)
+    for (int i = 0; i < notifiers.size(); ++i) {
+        const testing::InRow inRow(i);
         QVERIFY(!notifiers.at(i)->isEnabled());
+    }
     const QPointer<QSocketNotifier> first(notifiers.first());
     const QPointer<QSocketNotifier> last(notifiers.last());
     socket.reset();

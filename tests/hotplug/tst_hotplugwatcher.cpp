@@ -1,4 +1,5 @@
 #include "hotplug/hotplugwatcher.h"
+#include "support/rows.h"
 
 #include "hotplug/fakesystem.h"
 #include "hotplug/hotplugtesting.h"
@@ -227,6 +228,7 @@ void tst_hotplugwatcher::expressionsForMouseAndStorageMatchNothing()
                              QLatin1String("NAME=Mouse NAME=Storage"),
                              QLatin1String(pattern.constData()), QString()};
     for (size_t i = 0; i < sizeof texts / sizeof texts[0]; ++i) {
+        const testing::InRow inRow(i);
         QVERIFY(!qtcompat::matches(texts[i], pattern.constData(), Qt::CaseSensitive));
         QVERIFY(!qtcompat::matches(texts[i], pattern.constData(), Qt::CaseInsensitive));
     }
@@ -291,6 +293,7 @@ void tst_hotplugwatcher::notificationsReachTheRegistry()
     };
     // clang-format on
     for (int i = 0; i < static_cast<int>(sizeof steps / sizeof steps[0]); ++i) {
+        const testing::InRow inRow(i);
         QVERIFY(kernel.send(testing::datagram(steps[i].bytes)));
         QVERIFY(testing::waitUntil([&] { return log.entries.size() == i + 1; }));
         QCOMPARE(registry(), QString::fromLatin1(steps[i].registry));

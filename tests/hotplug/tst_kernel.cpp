@@ -3,6 +3,7 @@
 
 #include "hotplug/hotplugtesting.h"
 #include "support/keypads.h"
+#include "support/rows.h"
 #include "widgets/lineedit.h"
 
 #include <QFile>
@@ -433,6 +434,7 @@ void tst_kernel::othersDoNotReachTheRegistry()
     };
     // clang-format on
     for (size_t i = 0; i < sizeof rows / sizeof rows[0]; ++i) {
+        const testing::InRow inRow(i);
         bool after = !rows[i].before;
         QVERIFY(keyboardAfter(source, rows[i].action, rows[i].fields, rows[i].before, &after));
         QCOMPARE(after, rows[i].before);

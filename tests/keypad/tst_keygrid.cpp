@@ -4,6 +4,7 @@
 #include "keypad/hexkeypad.h"
 #include "keypad/numkeypad.h"
 #include "support/keypads.h"
+#include "support/rows.h"
 
 #include <QHBoxLayout>
 #include <QSignalSpy>
@@ -127,57 +128,38 @@ public Q_SLOTS:
     }
 
 private Q_SLOTS:
+    void initTestCase_data();
     void init();
     void cleanup();
 
-    void keysInTheirOrder_data();
     void keysInTheirOrder();
-    void keysAreChildrenInOrder_data();
     void keysAreChildrenInOrder();
-    void looksOfEveryKey_data();
     void looksOfEveryKey();
-    void applyStartsSelected_data();
     void applyStartsSelected();
-    void layoutOfTheRows_data();
     void layoutOfTheRows();
-    void rowsOfTheLayout_data();
     void rowsOfTheLayout();
-    void initializeBuildsOnce_data();
     void initializeBuildsOnce();
-    void everyKeyIsReported_data();
     void everyKeyIsReported();
-    void firstPressDeselectsApply_data();
     void firstPressDeselectsApply();
-    void pressedKeyKeepsItsSelectedLook_data();
     void pressedKeyKeepsItsSelectedLook();
-    void samePressTwiceIsReportedTwice_data();
     void samePressTwiceIsReportedTwice();
-    void quickSecondTouchIsReported_data();
     void quickSecondTouchIsReported();
-    void nullPressDeselectsAndReportsNothing_data();
     void nullPressDeselectsAndReportsNothing();
-    void appendedKeyIsWatched_data();
     void appendedKeyIsWatched();
-    void appendingNullIsIgnored_data();
     void appendingNullIsIgnored();
-    void filterLetsThePressThrough_data();
     void filterLetsThePressThrough();
-    void onlyAPressCounts_data();
     void onlyAPressCounts();
-    void slotMayDeleteTheGrid_data();
     void slotMayDeleteTheGrid();
-    void slotMayDeleteAForeignGrid_data();
     void slotMayDeleteAForeignGrid();
 
 private:
-    void rows();
-
     GridRow m_row;
     Grid m_grid;
     QPointer<CAbstractKeyPad> m_pad;
 };
 
-void tst_keygrid::rows()
+/// Every test runs with each grid.
+void tst_keygrid::initTestCase_data()
 {
     QTest::addColumn<int>("row");
     const QList<GridRow> all = gridRows();
@@ -185,35 +167,9 @@ void tst_keygrid::rows()
         QTest::newRow(all.at(i).name) << i;
 }
 
-#define GRID_ROWS(test)                                                                            \
-    void tst_keygrid::test##_data()                                                                \
-    {                                                                                              \
-        rows();                                                                                    \
-    }
-
-GRID_ROWS(keysInTheirOrder)
-GRID_ROWS(keysAreChildrenInOrder)
-GRID_ROWS(looksOfEveryKey)
-GRID_ROWS(applyStartsSelected)
-GRID_ROWS(layoutOfTheRows)
-GRID_ROWS(rowsOfTheLayout)
-GRID_ROWS(initializeBuildsOnce)
-GRID_ROWS(everyKeyIsReported)
-GRID_ROWS(firstPressDeselectsApply)
-GRID_ROWS(pressedKeyKeepsItsSelectedLook)
-GRID_ROWS(samePressTwiceIsReportedTwice)
-GRID_ROWS(quickSecondTouchIsReported)
-GRID_ROWS(nullPressDeselectsAndReportsNothing)
-GRID_ROWS(appendedKeyIsWatched)
-GRID_ROWS(appendingNullIsIgnored)
-GRID_ROWS(filterLetsThePressThrough)
-GRID_ROWS(onlyAPressCounts)
-GRID_ROWS(slotMayDeleteTheGrid)
-GRID_ROWS(slotMayDeleteAForeignGrid)
-
 void tst_keygrid::init()
 {
-    QFETCH(int, row);
+    QFETCH_GLOBAL(int, row);
     m_row = gridRows().at(row);
     m_grid = m_row.create();
     m_pad = m_grid.pad;
@@ -230,6 +186,7 @@ void tst_keygrid::keysInTheirOrder()
     const ExpectedKeys specs = watched(m_row.keys());
     QCOMPARE(keys.size(), specs.size());
     for (int i = 0; i < keys.size(); ++i) {
+        const testing::InRow inRow(i);
         QCOMPARE(testing::difference(keys.at(i), specs.at(i)), QString());
         QVERIFY(keys.at(i)->isEnabled());
     }
@@ -251,6 +208,7 @@ void tst_keygrid::looksOfEveryKey()
     const QList<CKeyButton*> keys = watchedKeysOf(m_pad);
     const ExpectedKeys specs = watched(m_row.keys());
     for (int i = 0; i < keys.size(); ++i) {
+        const testing::InRow inRow(i);
         const int background = specs.at(i).background;
         if (keys.at(i)->key() == Key_Apply)
             QCOMPARE(testing::lookDifference(keys.at(i), background + 1, Qt::black), QString());
@@ -270,6 +228,7 @@ void tst_keygrid::layoutOfTheRows()
 {
     const QSize sizes[] = {QSize(560, 390), QSize(469, 390), QSize(200, 200), QSize(801, 601)};
     for (size_t i = 0; i < sizeof sizes / sizeof sizes[0]; ++i) {
+        const testing::InRow inRow(i);
         const QScopedPointer<CAbstractKeyPad> pad(m_row.create().pad);
         pad->setSize(sizes[i]);
         pad->layout()->activate();
@@ -317,6 +276,7 @@ void tst_keygrid::everyKeyIsReported()
 {
     const QList<CKeyButton*> keys = watchedKeysOf(m_pad);
     for (int i = 0; i < keys.size(); ++i) {
+        const testing::InRow inRow(i);
         QSignalSpy changes(m_pad, SIGNAL(currentKeyChanged(QString, int)));
         touch(keys.at(i));
         QCOMPARE(changes.count(), 1);
@@ -429,6 +389,7 @@ void tst_keygrid::onlyAPressCounts()
     const QEvent::Type types[] = {QEvent::MouseButtonRelease, QEvent::MouseButtonDblClick,
                                   QEvent::MouseMove, QEvent::Enter, QEvent::KeyPress};
     for (size_t i = 0; i < sizeof types / sizeof types[0]; ++i) {
+        const testing::InRow inRow(i);
         QEvent event(types[i]);
         QVERIFY(!m_pad->eventFilter(key, &event));
     }

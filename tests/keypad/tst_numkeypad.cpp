@@ -1,5 +1,6 @@
 #include "keypad/numkeypad.h"
 #include "support/keypads.h"
+#include "support/rows.h"
 
 #include <QLayout>
 #include <QSignalSpy>
@@ -157,6 +158,7 @@ void tst_numkeypad::binaryModeDisablesTheUpperDigits()
     const QList<CKeyButton*> keys = keysOf(&grid);
     int disabled = 0;
     for (int i = 0; i < keys.size(); ++i) {
+        const testing::InRow inRow(i);
         if (keys.at(i) == blankKeyOf(&grid))
             continue;
         QCOMPARE(keys.at(i)->isEnabled(), !isUpperDigit(keys.at(i)));

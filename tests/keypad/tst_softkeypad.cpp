@@ -3,6 +3,7 @@
 #include "keypad/keypadedit.h"
 #include "keypad/numkeypad.h"
 #include "support/keypads.h"
+#include "support/rows.h"
 #include "widgets/toptitlearea.h"
 
 #include <QLayout>
@@ -307,6 +308,7 @@ void tst_softkeypad::sameAndUnknownTypesKeepTheGrid()
     CAbstractKeyPad* grid = gridOf(&dialog);
     const int numbers[] = {2, 5, -1, 1000};
     for (size_t i = 0; i < sizeof numbers / sizeof numbers[0]; ++i) {
+        const testing::InRow inRow(i);
         dialog.setSKPType(type(numbers[i]));
         testing::deleteDeferred();
         QCOMPARE(gridOf(&dialog), grid);

@@ -2,6 +2,7 @@
 
 #include "keypad/keypadedit.h"
 #include "support/keypads.h"
+#include "support/rows.h"
 
 #include <QSignalSpy>
 #include <QTextCursor>
@@ -350,6 +351,7 @@ void tst_softkeypad_entry::otherKeysKeepTheDialogOpen()
         QSignalSpy finished(&dialog, SIGNAL(finished(int)));
         const QList<CKeyButton*> keys = testing::keysOf(&dialog);
         for (int i = 0; i < keys.size(); ++i) {
+            const testing::InRow inRow(i);
             if (keys.at(i)->key() != Key_Apply)
                 dialog.changedkey(keys.at(i)->getText(), keys.at(i)->key());
         }

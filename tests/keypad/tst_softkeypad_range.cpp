@@ -2,6 +2,7 @@
 
 #include "keypad/keypadedit.h"
 #include "support/keypads.h"
+#include "support/rows.h"
 
 #include <QSignalSpy>
 #include <QTextCursor>
@@ -187,6 +188,7 @@ void tst_softkeypad_range::otherTypesAreNotChecked()
 {
     const int numbers[] = {0, 4, 5, -1};
     for (size_t i = 0; i < sizeof numbers / sizeof numbers[0]; ++i) {
+        const testing::InRow inRow(i);
         CSoftKeyPad dialog(type(numbers[i]));
         dialog.setRange(2, 5);
         dialog.setText("Title", "1000");

@@ -1,4 +1,5 @@
 #include "support/loggedcombobox.h"
+#include "support/rows.h"
 
 #include <QStandardItemModel>
 
@@ -281,6 +282,7 @@ void tst_combobox_signals::touchMayDeleteTheBox()
 void tst_combobox_signals::changeMayDeleteTheBox()
 {
     for (int i = 0; i < 3; ++i) {
+        const testing::InRow inRow(i);
         LoggedComboBox f;
         CComboBox* box = f.box;
         Reaction reaction(box, SIGNAL(currentValueChanged(QString)), [box]() { delete box; });

@@ -1,4 +1,5 @@
 #include "pages/pagebar.h"
+#include "support/rows.h"
 #include "support/testing.h"
 #include "widgets/pushbutton.h"
 
@@ -151,6 +152,7 @@ void tst_pagebar_painting::turnedText()
 void tst_pagebar_painting::arrowsShowTheirPictures()
 {
     for (size_t i = 0; i < sizeof arrows / sizeof arrows[0]; ++i) {
+        const testing::InRow inRow(i);
         CPageBar bar(nullptr, arrows[i].type);
         bar.setBackgroundColor(Qt::white);
         CPushButton* button = arrow(bar, arrows[i].arrow);

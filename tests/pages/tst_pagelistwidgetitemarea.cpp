@@ -1,5 +1,6 @@
 #include "pages/pagelistwidgetitem.h"
 #include "pages/pagelistwidgetitemarea.h"
+#include "support/rows.h"
 #include "support/signaltools.h"
 #include "support/testing.h"
 
@@ -121,6 +122,7 @@ void tst_pagelistwidgetitemarea::addedRowsAreHiddenAndNumbered()
     const QList<CPageListWidgetItem*> rows = rowsOf(area);
     QCOMPARE(rows.size(), 7);
     for (int i = 0; i < rows.size(); ++i) {
+        const testing::InRow inRow(i);
         QCOMPARE(rows.at(i)->index(), i);
         QCOMPARE(rows.at(i)->text(), numberedTexts(7).at(i));
         QVERIFY(rows.at(i)->isHidden());

@@ -4,6 +4,7 @@
 #include "pages/pagelistwidgetitem.h"
 #include "parm/parmcombobox.h"
 #include "support/parmtesting.h"
+#include "support/rows.h"
 
 using namespace parmtesting;
 
@@ -139,6 +140,7 @@ void tst_parmcombobox::anUnknownInitialTextChoosesTheFirst()
 {
     const char* const texts[] = {"Aut", "Auto ", "Turbo", "*"};
     for (size_t i = 0; i < sizeof texts / sizeof texts[0]; ++i) {
+        const testing::InRow inRow(i);
         Fixture fixture(modes(), QLatin1String(texts[i]));
         QCOMPARE(fixture.field.currentIndex(), 0);
         QCOMPARE(fixture.field.currentText(), QString::fromLatin1("Off"));
@@ -184,6 +186,7 @@ void tst_parmcombobox::widths()
 {
     const int widths[][2] = {{200, 100}, {201, 100}, {1, 0}, {0, 0}, {333, 166}};
     for (size_t i = 0; i < sizeof widths / sizeof widths[0]; ++i) {
+        const testing::InRow inRow(i);
         Fixture fixture;
         static_cast<CWidget&>(fixture.field).setWidth(widths[i][0]);
         QCOMPARE(fixture.field.minimumWidth(), widths[i][0]);
@@ -299,6 +302,7 @@ void tst_parmcombobox::backgroundColors()
 {
     const int flags[] = {FieldName, FieldAll, 3, -1};
     for (size_t i = 0; i < sizeof flags / sizeof flags[0]; ++i) {
+        const testing::InRow inRow(i);
         Fixture fixture;
         const QImage before = testing::render(fixture.combo);
         fixture.field.setBackgroundColor(Qt::red, FieldValue);
@@ -314,6 +318,7 @@ void tst_parmcombobox::textColors()
 {
     const int flags[] = {FieldName, FieldAll, 3, -1};
     for (size_t i = 0; i < sizeof flags / sizeof flags[0]; ++i) {
+        const testing::InRow inRow(i);
         Fixture fixture;
         const QImage before = testing::render(fixture.combo);
         fixture.field.setTextColor(Qt::red, FieldValue);
@@ -329,6 +334,7 @@ void tst_parmcombobox::borders()
 {
     const int flags[] = {FieldName, FieldAll, 3, -1};
     for (size_t i = 0; i < sizeof flags / sizeof flags[0]; ++i) {
+        const testing::InRow inRow(i);
         Fixture fixture;
         const QImage before = testing::render(fixture.combo);
         fixture.field.setBorderVisible(true, FieldValue);

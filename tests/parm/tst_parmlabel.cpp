@@ -179,6 +179,7 @@ void tst_parmlabel::anUnknownProportionFixesTheFieldOnly()
 {
     const int unknown[] = {9, 10, -1, 1000};
     for (size_t i = 0; i < sizeof unknown / sizeof unknown[0]; ++i) {
+        const testing::InRow inRow(i);
         Fixture fixture;
         fixture.field.setWidth(360, static_cast<Proportion>(unknown[i]));
         QCOMPARE(fixture.field.minimumWidth(), 360);

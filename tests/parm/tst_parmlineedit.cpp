@@ -197,6 +197,7 @@ void tst_parmlineedit::anUnknownProportionFixesTheFieldOnly()
 {
     const int unknown[] = {9, -1, 1000};
     for (size_t i = 0; i < sizeof unknown / sizeof unknown[0]; ++i) {
+        const testing::InRow inRow(i);
         Fixture fixture;
         fixture.field.setWidth(360, static_cast<Proportion>(unknown[i]));
         QCOMPARE(fixture.field.minimumWidth(), 360);
@@ -264,6 +265,7 @@ void tst_parmlineedit::backgroundColors()
 {
     const int flags[] = {FieldName, FieldAll, 3, -1};
     for (size_t i = 0; i < sizeof flags / sizeof flags[0]; ++i) {
+        const testing::InRow inRow(i);
         Fixture fixture;
         const QImage before = testing::render(fixture.edit);
         fixture.field.setBackgroundColor(Qt::red, FieldValue);
@@ -279,6 +281,7 @@ void tst_parmlineedit::textColors()
 {
     const int flags[] = {FieldName, FieldAll, 3, -1};
     for (size_t i = 0; i < sizeof flags / sizeof flags[0]; ++i) {
+        const testing::InRow inRow(i);
         Fixture fixture;
         const QImage before = testing::render(fixture.edit);
         fixture.field.setTextColor(Qt::red, FieldValue);

@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/testing.h"
 
 #include "keypad/genkeypad.h"
@@ -306,6 +307,7 @@ void tst_properties::init()
 void tst_properties::everyClassCanBeMadeFromItsParent()
 {
     for (size_t i = 0; i < sizeof makers / sizeof makers[0]; ++i) {
+        const testing::InRow inRow(i);
         const QWidget* widget = makers[i].make(m_parent.data());
         QCOMPARE(widget->metaObject()->className(), makers[i].name);
         QCOMPARE(widget->parentWidget(), m_parent.data());

@@ -1,4 +1,5 @@
 #include "support/colors.h"
+#include "support/rows.h"
 #include "support/testing.h"
 #include "widgets/pushbutton.h"
 
@@ -377,6 +378,7 @@ void tst_looks::styleFileAgreesWithThePictures()
     const QFont button =
         CWidgetStyle::getWidgetStyle(QLatin1String("CPushButton")).styles.first().font;
     for (size_t i = 0; i < sizeof fields / sizeof fields[0]; ++i) {
+        const testing::InRow inRow(i);
         const Style name = CWidgetStyle::getWidgetStyle(QLatin1String(fields[i])).styles.first();
         QCOMPARE(static_cast<int>(name.field), static_cast<int>(Style::FieldName));
         QCOMPARE(name.background, fixed);

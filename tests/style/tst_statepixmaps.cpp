@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/testing.h"
 
 namespace
@@ -365,8 +366,10 @@ void tst_statepixmaps::enumerators()
         {S::HorizontalPageBar, 0}, {S::VerticalPageBar, 1},
         // clang-format on
     };
-    for (size_t i = 0; i < sizeof values / sizeof values[0]; ++i)
+    for (size_t i = 0; i < sizeof values / sizeof values[0]; ++i) {
+        const testing::InRow inRow(i);
         QCOMPARE(values[i].actual, values[i].expected);
+    }
 }
 
 QTEST_MAIN(tst_statepixmaps)

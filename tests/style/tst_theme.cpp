@@ -157,6 +157,7 @@ void tst_theme::fontsFollowTheApplicationsFont()
     QApplication::setFont(other);
     const int followers[] = {2, 3, 4, 5, 6};
     for (size_t i = 0; i < sizeof followers / sizeof followers[0]; ++i) {
+        const testing::InRow inRow(i);
         QCOMPARE(font(followers[i]).family(), other.family());
         QVERIFY(font(followers[i]).italic());
     }

@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/testing.h"
 
 #include <QApplication>
@@ -130,6 +131,7 @@ void tst_widgetstyle_rewrite::fileIsIndentedByFour()
     QVERIFY(lines.contains("<root>"));
     int seen = 0;
     for (int i = 0; i < lines.size(); ++i) {
+        const testing::InRow inRow(i);
         const QByteArray line = lines.at(i);
         const int indent = line.size() - line.trimmed().size();
         const QByteArray start = line.trimmed();
@@ -153,6 +155,7 @@ void tst_widgetstyle_rewrite::encodingIsKept()
                               "name=\"Gr\xFC\xDF\"><FieldAll><font/></FieldAll></widget></root>";
     const QByteArray contents[] = {utf8, latin1};
     for (size_t i = 0; i < sizeof contents / sizeof contents[0]; ++i) {
+        const testing::InRow inRow(i);
         const QString path = folder.write(QLatin1String("style.xml"), contents[i]);
         QVERIFY(CWidgetStyle::setWidgetStyle(path, family("Courier")));
         QVERIFY(CWidgetStyle::initialize(path));

@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/testing.h"
 
 #include "keypad/genkeypad.h"
@@ -414,8 +415,10 @@ void tst_translations::nothingLeavesItsWidgetFromRightToLeft()
     CPageBar* const bar = new CPageBar; // at its first size the arrows need two pixels more
     bar->setSize(220, bar->height());
     QWidget* const widgets[] = {pages, label, edit, combo, check, bar, new CNumKeyPad(nullptr)};
-    for (size_t i = 0; i < sizeof widgets / sizeof widgets[0]; ++i)
+    for (size_t i = 0; i < sizeof widgets / sizeof widgets[0]; ++i) {
+        const testing::InRow inRow(i);
         layout->addWidget(widgets[i]);
+    }
     CSoftKeyPad keypad(CKeyPadFactory::SKP_GENERAL);
     CPageListWidget list;
     list.setItems(modes + modes + modes);
@@ -427,8 +430,10 @@ void tst_translations::nothingLeavesItsWidgetFromRightToLeft()
     const bool mirrored = direction == Qt::RightToLeft;
     const QList<CLabel*> parts = label->findChildren<CLabel*>();
     QCOMPARE(parts.at(0)->x() > parts.at(1)->x(), mirrored);
-    for (size_t i = 0; i < sizeof widgets / sizeof widgets[0]; ++i)
+    for (size_t i = 0; i < sizeof widgets / sizeof widgets[0]; ++i) {
+        const testing::InRow inRow(i);
         QCOMPARE(outside(widgets[i]), QString());
+    }
     QCOMPARE(outside(&list), QString());
     QCOMPARE(outside(&keypad), QString());
     list.hide();

@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/testing.h"
 #include "widgets/checkbox.h"
 
@@ -287,6 +288,7 @@ void tst_checkbox::qtsOwnFlagIsNotUsed()
     CCheckBox captioned(QLatin1String("Heating"));
     CCheckBox* boxes[] = {&bare, &captioned};
     for (size_t i = 0; i < sizeof boxes / sizeof boxes[0]; ++i) {
+        const testing::InRow inRow(i);
         QSignalSpy changes(boxes[i], SIGNAL(stateChanged(int)));
         boxes[i]->resize(120, 28);
         const QImage before = testing::render(boxes[i]);
@@ -332,6 +334,7 @@ void tst_checkbox::aSlotMayDeleteTheBox()
 {
     const char* const triggers[] = {SIGNAL(pressed()), SIGNAL(stateChanged(int))};
     for (size_t i = 0; i < sizeof triggers / sizeof triggers[0]; ++i) {
+        const testing::InRow inRow(triggers[i]);
         QPointer<CCheckBox> box(new CCheckBox);
         Deleter deleter(box);
         connect(box, triggers[i], &deleter, SLOT(deleteBox()));

@@ -1,4 +1,5 @@
 #include "support/resolution.h"
+#include "support/rows.h"
 #include "support/testing.h"
 #include "widgets/checkbox.h"
 
@@ -196,6 +197,7 @@ void tst_checkbox_painting::aCaptionedBoxTakesItsStyle()
 void tst_checkbox_painting::boxAndTickForEveryHeight()
 {
     for (size_t i = 0; i < sizeof geometries / sizeof geometries[0]; ++i) {
+        const testing::InRow inRow(i);
         const QSize size(150, geometries[i].height);
         CCheckBox box(QLatin1String("Fan"));
         box.setFont(testing::testFont(12, true));
@@ -211,6 +213,7 @@ void tst_checkbox_painting::boxAndTickForEveryHeight()
 void tst_checkbox_painting::bareBoxForEveryHeight()
 {
     for (size_t i = 0; i < sizeof geometries / sizeof geometries[0]; ++i) {
+        const testing::InRow inRow(i);
         const QSize size(70, geometries[i].height);
         CCheckBox box;
         box.setFixedSize(size);

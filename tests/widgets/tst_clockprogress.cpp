@@ -1,4 +1,5 @@
 #include "support/resolution.h"
+#include "support/rows.h"
 #include "support/testing.h"
 #include "widgets/clockprogress.h"
 
@@ -236,6 +237,7 @@ void tst_clockprogress::theFaceStandsInTheMiddle()
     };
     rollTo(0);
     for (size_t i = 0; i < sizeof rows / sizeof rows[0]; ++i) {
+        const testing::InRow inRow(i);
         CClockProgress clock;
         clock.setSize(rows[i].size);
         clock.setRange(0, 9);
@@ -249,6 +251,7 @@ void tst_clockprogress::everyText()
 {
     rollTo(0);
     for (size_t i = 0; i < sizeof texts / sizeof texts[0]; ++i) {
+        const testing::InRow inRow(i);
         CClockProgress clock;
         clock.setRange(texts[i].minimum, texts[i].maximum);
         clock.setValue(texts[i].value);

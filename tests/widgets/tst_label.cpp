@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/stylefile.h"
 #include "support/testing.h"
 
@@ -194,6 +195,7 @@ void tst_label::anyOtherWrapModeIsNoWrap()
 {
     const int modes[] = {0, 3, -1, 77};
     for (size_t i = 0; i < sizeof modes / sizeof modes[0]; ++i) {
+        const testing::InRow inRow(i);
         Label label;
         label.setText(QLatin1String("a text that does not fit into the label at all"));
         label.setWrapMode(static_cast<CLabel::WrapMode>(modes[i]));

@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/testing.h"
 
 #include "widgets/label.h"
@@ -247,6 +248,7 @@ void tst_label_wrapping::everyTextEnds()
         QString(2000, QChar(0)),
     };
     for (size_t i = 0; i < sizeof texts / sizeof texts[0]; ++i) {
+        const testing::InRow inRow(i);
         for (int mode = 0; mode <= 2; ++mode) {
             for (int width = 0; width < 60; width += 7) {
                 CLabel label;

@@ -230,6 +230,7 @@ void tst_progressbar::theFillIsPainted()
     CProgressBar bar;
     const int values[] = {2, 20, 21, 41, 61, 81, 100};
     for (size_t i = 0; i < sizeof values / sizeof values[0]; ++i) {
+        const testing::InRow inRow(i);
         bar.setValue(values[i]);
         CWIDGET_COMPARE_IMAGES(
             testing::render(&bar),

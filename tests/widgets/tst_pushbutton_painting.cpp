@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/testing.h"
 
 #include "widgets/pushbutton.h"
@@ -119,6 +120,7 @@ void tst_pushbutton_painting::pictureFillsTheButton()
 {
     const QSize sizes[] = {QSize(120, 40), QSize(60, 20), QSize(200, 90), QSize(7, 3)};
     for (size_t i = 0; i < sizeof sizes / sizeof sizes[0]; ++i) {
+        const testing::InRow inRow(i);
         CPushButton button;
         const QPixmap picture = halves(sizes[i], Qt::blue, Qt::yellow);
         button.setBackground(picture);
@@ -255,6 +257,7 @@ void tst_pushbutton_painting::iconOfModeAndState()
         {false, true, halves(size, Qt::white, Qt::cyan)},
     };
     for (size_t i = 0; i < sizeof rows / sizeof rows[0]; ++i) {
+        const testing::InRow inRow(i);
         CPushButton button;
         button.setIcon(signIcon());
         button.setIconSize(size);

@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/testing.h"
 
 #include "keypad/keybutton.h"
@@ -462,6 +463,7 @@ void tst_stale_looks::everyDeviceGetsItsOwnPixels()
         const QScopedPointer<QWidget> painted(made(row));
         change(row, first).apply(painted.data());
         for (size_t i = 0; i < sizeof ratios / sizeof ratios[0]; ++i) {
+            const testing::InRow inRow(i);
             const QScopedPointer<QWidget> fresh(made(row));
             change(row, first).apply(fresh.data());
             CWIDGET_COMPARE_IMAGES(renderTimes(ratios[i], painted.data()),

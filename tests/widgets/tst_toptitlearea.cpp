@@ -1,3 +1,4 @@
+#include "support/rows.h"
 #include "support/stylefile.h"
 #include "support/testing.h"
 
@@ -112,6 +113,7 @@ void tst_toptitlearea::sizeHintCoversTheTitle()
     const char* const titles[] = {"", "T", "Measurement", "(gjpqy)"};
     for (int size = 8; size <= 20; size += 4) {
         for (size_t i = 0; i < sizeof titles / sizeof titles[0]; ++i) {
+            const testing::InRow inRow(titles[i]);
             CTopTitleArea area;
             area.setFont(testing::testFont(size, true));
             area.setTitle(QLatin1String(titles[i]));
