@@ -25,11 +25,11 @@ public:
     void release();
     void click(const QPoint& point);
 
-    /// Waits so long that a next click at the same place is no double click.
+    /// Waits until another click at the same place is no double click.
     void separateClicks() const;
     void close();
 
-    /// Ends it by a signal that nobody can catch.
+    /// Ends it by a signal that cannot be caught.
     void kill();
 
     /// The pixels of the window on the screen.

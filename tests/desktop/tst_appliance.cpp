@@ -13,7 +13,7 @@
 namespace
 {
 
-const QRect belowTitle(0, 44, 800, 556);       // the title's lamps tell of this machine's devices
+const QRect belowTitle(0, 44, 800, 556);       // the title's lamps show this machine's devices
 const QRect belowFirstField(0, 150, 800, 450); // in which the cursor may stand
 const QRect report(20, 550, 760, 32);
 
@@ -128,7 +128,7 @@ bool tst_appliance::start(const QString& settingsFile)
     return m_window->waitUntilShown();
 }
 
-/// What the window shows instead of what the twin does; empty when it is that.
+/// Where the window differs from the twin; empty when they look alike.
 QString tst_appliance::shown(Twin* twin) const
 {
     return m_window->waitFor(twin->picture(), belowTitle);

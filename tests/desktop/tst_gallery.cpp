@@ -122,7 +122,7 @@ void tst_gallery::pictureOpensAboveAndBackReturns()
         QTest::qWait(50);
     const QImage opened = window.grab();
     QVERIFY(opened.copy(screenRect) != pictures.copy(screenRect));
-    // The picture stands unscaled on the light ground.
+    // The picture stands unscaled on the light background.
     const QImage picture(latin(":/images/ARROW-BLACK.png"));
     QCOMPARE(opened.pixel(144 + 9, 96 + 13), QColor(Qt::black).rgb());
     QVERIFY(!picture.isNull());

@@ -20,7 +20,7 @@ QString latin(const char* text)
     return QString::fromLatin1(text);
 }
 
-// What is pressed on each keypad, key by key, after the old text is gone, and what comes of it.
+// What is pressed on each keypad, key by key, once the old text is deleted, and the result.
 const struct Row {
     const char* name;
     CKeyPadFactory::KeyPadType type;
@@ -70,7 +70,7 @@ bool tst_gallery_entry::openKeypad(GalleryWindow* window, const KeyMap& map, con
     return map.waitUntilShown(*window);
 }
 
-/// What the panel's field shows instead of \a text; empty when it is that.
+/// What the panel's field shows instead of \a text; empty when it shows the text.
 QString tst_gallery_entry::fieldDiffers(const GalleryWindow& window, const QRect& field,
                                         const QString& text)
 {

@@ -46,7 +46,7 @@ void tst_gallery_lists::initTestCase()
     QVERIFY(CWidgetStyle::initialize(latin(CWIDGET_SOURCE_DIR "/style/widget-style.xml")));
 }
 
-/// What the closed box shows instead of \a text; empty when it is that.
+/// What the closed box shows instead of \a text; empty when it shows the text.
 QString tst_gallery_lists::boxDiffers(const GalleryWindow& window, const QRect& rect,
                                       const QString& text)
 {

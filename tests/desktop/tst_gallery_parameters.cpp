@@ -97,7 +97,7 @@ void tst_gallery_parameters::checkBoxTurnsAPageOn()
                          << latin("--log") << latin("--screen") << latin("parameters"));
     QVERIFY(window.waitUntilShown());
     QCOMPARE(window.waitFor(GalleryWindow::shot(latin("parameters")), pagesRect), QString());
-    window.click(previousPage); // back from the first page is the last one, the units
+    window.click(previousPage); // before the first page comes the last one, the units
     QTest::qWait(300);
     const QRect bar(400, 462, 120, 30);
     const QImage before = window.grab();

@@ -1,4 +1,4 @@
-// Line edits and their keypads under a finger that the X server knows of.
+// Line edits and their keypads, touched through the X server.
 
 #include "support/desktopmain.h"
 #include "support/keypads.h"
@@ -204,7 +204,7 @@ void tst_keypad_touch::fieldDeletedWhileItsKeypadIsOpen()
     QVERIFY(!QApplication::activeModalWidget());
     delete fields.data();
 
-    Fields others; // touches go on being taken
+    Fields others; // touches are still taken
     QVERIFY(others.isReady());
     KeyPadUser next([](CSoftKeyPad* dialog) {
         QVERIFY(testcompat::waitForWindow(dialog));

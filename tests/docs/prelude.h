@@ -1,8 +1,8 @@
 #ifndef CWIDGET_TESTS_DOCS_PRELUDE_H
 #define CWIDGET_TESTS_DOCS_PRELUDE_H
 
-// What the snippets of the guide that are no whole programs stand in. This file and what comes
-// after each of them is put around them by snippets.sh.
+// What surrounds those snippets of the guide that are not whole programs: snippets.sh puts this
+// file before them and writes what comes after each of them.
 
 #include "allclasses.h"
 

@@ -89,7 +89,7 @@ QStringList unexpected(const QStringList& warnings, const QWidget* widget)
     return left;
 }
 
-/// Paints what of \a widget a screen could show.
+/// Paints the part of \a widget that a screen could show.
 void paint(QObject* object)
 {
     QWidget* const widget = qobject_cast<QWidget*>(object);
@@ -363,7 +363,7 @@ void tst_setters::makeEach(QObject* object, const char* owner) const
     QVERIFY(made > 0);
 }
 
-/// What the kernel refuses is said in a warning; nothing else is.
+/// Warns of nothing but what the kernel refuses.
 void tst_setters::watcherInAnyOrder()
 {
     QDeviceWatcher watcher;

@@ -16,7 +16,7 @@ const qreal ratios[] = {1, 1.5, 2}; // pixels of a screen for each of a widget
 const double leastSharpness = 0.85;
 const double farthestInPlace = 64;
 
-/// Draws itself into a plain picture first, and that onto the screen: what is to be found.
+/// A fault to be found: draws itself into a plain picture first, and that onto the screen.
 class Blurred : public QWidget
 {
 public:
@@ -38,7 +38,8 @@ protected:
     }
 };
 
-/// Takes the pixels of the screen for its own: on a finer screen its picture is too small.
+/// Another one: takes the pixels of the screen for its own, so that its picture is too small on a
+/// finer screen.
 class Misplaced : public QWidget
 {
 public:
@@ -63,7 +64,7 @@ void forceSize(QWidget* widget, const QSize& size)
     widget->setFixedSize(size);
 }
 
-/// What was warned of, but not what the tests' platform cannot do with windows.
+/// The warnings, except for what the tests' platform cannot do with windows.
 QString withoutPlatform(const QStringList& warnings)
 {
     QStringList left;
@@ -74,7 +75,7 @@ QString withoutPlatform(const QStringList& warnings)
     return left.join(QLatin1String("; "));
 }
 
-/// Paints at the plain resolution once before that counts: only then are all parts laid out.
+/// Paints once at the plain resolution beforehand: only then are all parts laid out.
 QImage paintedPlainly(QWidget* widget)
 {
     sharpness::paintedAt(widget, 1);

@@ -11,7 +11,7 @@
 namespace
 {
 
-const int rest = 650; // ms, in which a cursor of Qt's own pace would blink
+const int rest = 650; // ms: a cursor at Qt's own pace would blink in that time
 const int minute = 60 * 1000;
 
 /// Names what a timer fires for while it lives. The time of the title strip may change.
@@ -173,7 +173,7 @@ void tst_gallery_idle::timeOfTheTitleSleepsUntilTheNextMinute()
     QVERIFY(before + timer->interval() <= end);
 }
 
-/// Nobody looks at the registry again and again: it is a notification that changes a sign.
+/// The registry is not polled: a notification changes the sign.
 void tst_gallery_idle::signFollowsANotification()
 {
     const QList<DeviceSign*> signs = m_panel->findChildren<DeviceSign*>();

@@ -155,7 +155,7 @@ QImage tst_gallery_looks::bare(const char* button)
     return image;
 }
 
-/// Also by people who do not see all colours, and on a display that shows none.
+/// Also by colour-blind users, and on a display without colours.
 void tst_gallery_looks::statesOfButtonsAreToldApart()
 {
     m_panel->showScreen(QLatin1String("controls"));

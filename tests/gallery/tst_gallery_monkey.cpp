@@ -74,7 +74,7 @@ private:
     QTimer m_timer;
 };
 
-/// The monkey notices what it is there for.
+/// The monkey notices what it is meant to find.
 class tst_gallery_monkey : public QObject
 {
     Q_OBJECT

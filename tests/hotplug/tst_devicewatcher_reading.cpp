@@ -72,7 +72,7 @@ void interrupted(int)
 {
 }
 
-/// Interrupts what this thread does after 50 ms, without letting it go on afterwards.
+/// Interrupts what this thread does after 50 ms; what it interrupts is not resumed.
 void interruptSoon()
 {
     struct sigaction action;

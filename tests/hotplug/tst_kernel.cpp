@@ -19,7 +19,7 @@
 namespace
 {
 
-// A device that every kernel has and that nothing minds: what it says of it is made up below.
+// A device that every kernel has and nothing reacts to; what is said of it is made up below.
 const char ueventFile[] = "/sys/class/mem/null/uevent";
 const char header[] = "@/devices/virtual/mem/null";
 
@@ -165,8 +165,9 @@ private:
     QString m_mark;
 };
 
-/// Whether the registry knows of a keyboard when it did \a before and the kernel then tells of
-/// \a action and \a fields. Another test may plug a keyboard at that very moment: then once more.
+/// Notes in \a after whether the registry, which had a keyboard or not \a before, has one once the
+/// kernel has told of \a action and \a fields; false when that could not be tried. Tries again when
+/// another test plugs a keyboard at that very moment.
 bool keyboardAfter(QDeviceWatcher* source, const char* action, const char* fields, bool before,
                    bool* after)
 {
@@ -189,8 +190,7 @@ bool keyboardAfter(QDeviceWatcher* source, const char* action, const char* field
 }
 
 /// Plugs a keyboard in, or out, and touches a line edit afterwards; how many keypads opened, or -1
-/// when it could not be tried. Another test may do the opposite at that very moment: then once
-/// more.
+/// when it could not be tried. Tries again when another test does the opposite at that very moment.
 int keyPadsOfATouch(CLineEdit* edit, QDeviceWatcher* source, bool plugged)
 {
     NullDevice device;

@@ -48,8 +48,8 @@ QByteArray joined(const QByteArray& datagram)
     return uevent::joinedFields(datagram, &buffer);
 }
 
-/// The same once more, and told another way: everything but what separates the fields, and the
-/// white space beside it.
+/// The same, found in another way: everything but what separates the fields, and the white space
+/// beside it.
 QByteArray joinedByHand(const QByteArray& datagram)
 {
     const QByteArray white = QByteArray::fromRawData(" \t\n\v\f\r", 6);

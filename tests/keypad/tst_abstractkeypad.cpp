@@ -10,7 +10,7 @@ class tst_abstractkeypad : public QObject
 private Q_SLOTS:
     void newGridIsBlackAndFixed();
     void gridIsEmpty();
-    void paintsItsGround();
+    void paintsItsBackground();
     void signalTellsTextAndCode();
 };
 
@@ -36,7 +36,7 @@ void tst_abstractkeypad::gridIsEmpty()
     QVERIFY(grid.children().isEmpty());
 }
 
-void tst_abstractkeypad::paintsItsGround()
+void tst_abstractkeypad::paintsItsBackground()
 {
     CAbstractKeyPad grid;
     CWIDGET_COMPARE_IMAGES(testing::render(&grid), testing::canvas(&grid, Qt::black));

@@ -34,7 +34,7 @@ const Cost keyLook[] = {
     {"layout passes",  QEvent::LayoutRequest, 0,    0},
 };
 
-/// The key, and the field on the ground that shines through it.
+/// The key, and the field on the background that shows through it.
 const Cost typedLetter[] = {
     {"paints",         QEvent::Paint,         5,    6},
     {"flushes",        QEvent::UpdateRequest, 1,    2},

@@ -239,7 +239,7 @@ void tst_keygrid::layoutOfTheRows()
     }
 }
 
-/// Rows without keys take no place, so that they are there is seen here only.
+/// Rows without keys take no place, so only this test sees that they are there.
 void tst_keygrid::rowsOfTheLayout()
 {
     QVBoxLayout* column = qobject_cast<QVBoxLayout*>(m_pad->layout());

@@ -369,7 +369,7 @@ void tst_keypadfactory::closedKeypadIsNoParent()
         QPointer<CSoftKeyPad> first;
         KeyPadUser firstUser([&](CSoftKeyPad* dialog) { first = dialog; });
         CKeyPadFactory::accessKeyPad("", "", CKeyPadFactory::SKP_HEX);
-        QApplication::setActiveWindow(first); // a slow window system has not told otherwise yet
+        QApplication::setActiveWindow(first); // a slow window system lags behind
         QCOMPARE(QApplication::activeWindow(), static_cast<QWidget*>(first));
         KeyPadUser secondUser([&](CSoftKeyPad* dialog) {
             parent = dialog->parentWidget();

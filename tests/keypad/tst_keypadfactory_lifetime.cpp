@@ -16,7 +16,7 @@ namespace
 
 const int rounds = 1000;
 
-// With sanitizers deleted memory is kept aside for a while; they tell themselves what is lost.
+// Sanitizers keep deleted memory aside for a while, and report by themselves what is lost.
 #if defined(__SANITIZE_ADDRESS__)
 const bool memoryTells = false;
 #else

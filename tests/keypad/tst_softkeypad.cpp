@@ -65,7 +65,7 @@ private Q_SLOTS:
     void gridBelowTheFieldAfterResizing();
     void initializeBuildsOnce();
     void fieldFiltersAKeyboardByType();
-    void paintsBlackGround();
+    void paintsBlackBackground();
     void setTextTwiceInserts();
     void clearInputEmptiesTheField();
     void otherTypeReplacesTheGrid_data();
@@ -236,7 +236,7 @@ void tst_softkeypad::fieldFiltersAKeyboardByType()
     }
 }
 
-void tst_softkeypad::paintsBlackGround()
+void tst_softkeypad::paintsBlackBackground()
 {
     CSoftKeyPad dialog(CKeyPadFactory::SKP_GENERAL);
     editOf(&dialog)->hide();

@@ -128,7 +128,7 @@ void tst_combobox_popup::opensOverTheActiveWindow()
     QWidget active;
     active.setGeometry(window);
     QVERIFY(activate(&active));
-    QWidget other; // where the box is does not matter
+    QWidget other; // the place of the box does not matter
     other.setGeometry(400, 300, 200, 100);
     CComboBox box(&other);
     box.addItems(numberedTexts(count));

@@ -77,7 +77,7 @@ class tst_pagebar_painting : public QObject
 private Q_SLOTS:
     void textFollowsThePages();
     void textHasItsColorAndItsSize();
-    void groundAndBorderAreTheBaseWidgets();
+    void backgroundAndBorderAreTheBaseWidgets();
     void turnedText_data();
     void turnedText();
     void arrowsShowTheirPictures();
@@ -117,7 +117,7 @@ void tst_pagebar_painting::textHasItsColorAndItsSize()
     CWIDGET_COMPARE_IMAGES(testing::render(&bar), horizontalText(bar, "Page 0 of 0", Qt::blue));
 }
 
-void tst_pagebar_painting::groundAndBorderAreTheBaseWidgets()
+void tst_pagebar_painting::backgroundAndBorderAreTheBaseWidgets()
 {
     CPageBar bar;
     hideArrows(&bar);

@@ -36,9 +36,9 @@ void drawText(QImage* image, const CPageListWidgetItem& row, const QString& text
                      text);
 }
 
-QImage expectedRow(const CPageListWidgetItem& row, const QColor& ground, const QString& text)
+QImage expectedRow(const CPageListWidgetItem& row, const QColor& background, const QString& text)
 {
-    QImage image = testing::canvas(&row, ground);
+    QImage image = testing::canvas(&row, background);
     drawText(&image, row, text);
     return image;
 }
@@ -234,7 +234,7 @@ void tst_pagelistwidgetitem::baseWidgetIsPaintedFirst()
     row.setBackgroundColor(Qt::yellow);
     CWIDGET_COMPARE_IMAGES(testing::render(&row), expectedRow(row, Qt::yellow, label()));
     row.setBorderWidth(2);
-    row.setSelect(true); // covers ground and border
+    row.setSelect(true); // covers background and border
     CWIDGET_COMPARE_IMAGES(testing::render(&row), expectedRow(row, selectColor, label()));
 }
 

@@ -93,7 +93,7 @@ private Q_SLOTS:
     void inactiveRowsAreLeftAlone();
     void inactiveRowsKeepTheirMark();
     void clearRemovesEverything();
-    void paintsItsGround();
+    void paintsItsBackground();
 };
 
 void tst_pagelistwidgetitemarea::newArea()
@@ -368,7 +368,7 @@ void tst_pagelistwidgetitemarea::clearRemovesEverything()
     QCOMPARE(shownRows(area), text("0 1 2 3 4")); // the first page again
 }
 
-void tst_pagelistwidgetitemarea::paintsItsGround()
+void tst_pagelistwidgetitemarea::paintsItsBackground()
 {
     CPageListWidgetItemArea area;
     area.setSize(220, 148);

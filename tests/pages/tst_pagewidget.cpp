@@ -77,7 +77,7 @@ private Q_SLOTS:
     void arrowsHaveRoomInANarrowLayout();
     void setSizeAfterALayout();
     void sizesBelowTheBarAreHarmless();
-    void groundReachesTheBar();
+    void backgroundReachesTheBar();
     void addedPagesAreNumberedByPosition();
     void insertedPageKeepsItsNumberAndOthersTheirs();
     void insertPageOutOfRangeAppends();
@@ -200,12 +200,12 @@ void tst_pagewidget::sizesBelowTheBarAreHarmless()
     QCOMPARE(messages.warnings(), QStringList());
 }
 
-void tst_pagewidget::groundReachesTheBar()
+void tst_pagewidget::backgroundReachesTheBar()
 {
     CPageWidget pages;
-    const QColor ground = CWidgetStyle::getColor(CWidgetStyle::ContainerBackgroundColor);
-    QCOMPARE(pages.getBackgroundColor(), ground);
-    QCOMPARE(barOf(pages)->getBackgroundColor(), ground);
+    const QColor background = CWidgetStyle::getColor(CWidgetStyle::ContainerBackgroundColor);
+    QCOMPARE(pages.getBackgroundColor(), background);
+    QCOMPARE(barOf(pages)->getBackgroundColor(), background);
     pages.setBackgroundColor(Qt::green);
     QCOMPARE(pages.getBackgroundColor(), QColor(Qt::green));
     QCOMPARE(barOf(pages)->getBackgroundColor(), QColor(Qt::green));

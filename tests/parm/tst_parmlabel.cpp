@@ -107,7 +107,7 @@ private Q_SLOTS:
     void entriesCountInTheirOrder();
     void aStyleWithoutColors();
     void autoStyleGatesTheStyle();
-    void theOwnGroundIsReachable();
+    void theOwnBackgroundIsReachable();
 };
 
 void tst_parmlabel::parts()
@@ -374,7 +374,7 @@ void tst_parmlabel::autoStyleGatesTheStyle()
     QCOMPARE(fixture.name->font().pixelSize(), 15);
 }
 
-void tst_parmlabel::theOwnGroundIsReachable()
+void tst_parmlabel::theOwnBackgroundIsReachable()
 {
     Fixture fixture;
     fixture.field.setBackgroundColor(Qt::cyan);

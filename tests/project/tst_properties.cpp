@@ -293,7 +293,7 @@ private Q_SLOTS:
     void everyPropertyIsInTheTable();
     void enumerations_data();
     void enumerations();
-    void groundOfEveryWidget();
+    void backgroundOfEveryWidget();
 
 private:
     QScopedPointer<QWidget> m_parent;
@@ -437,7 +437,7 @@ void tst_properties::enumerations()
     QCOMPARE(seen.join(QLatin1String(",")), keys);
 }
 
-void tst_properties::groundOfEveryWidget()
+void tst_properties::backgroundOfEveryWidget()
 {
     int seen = 0;
     for (size_t i = 0; i < sizeof makers / sizeof makers[0]; ++i) {

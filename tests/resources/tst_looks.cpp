@@ -66,15 +66,16 @@ int rimOf(const Strip& strip)
     return strip.blackOnSelected ? keyRim : ring;
 }
 
-/// Picture number \a index of a strip on the ground that a button paints under it.
+/// Picture number \a index of a strip on the background that a button paints under it.
 QImage picture(const Strip& strip, int index)
 {
     const QImage image(QLatin1String(":/images/") + QLatin1String(strip.image));
     if (image.isNull())
         qFatal("there is no picture %s", strip.image);
-    QImage onGround = testing::canvas(QSize(strip.width, image.height()), QColor(0x63, 0x5E, 0x80));
-    QPainter(&onGround).drawImage(-index * strip.width, 0, image);
-    return onGround;
+    QImage onBackground =
+        testing::canvas(QSize(strip.width, image.height()), QColor(0x63, 0x5E, 0x80));
+    QPainter(&onBackground).drawImage(-index * strip.width, 0, image);
+    return onBackground;
 }
 
 /// The lowest contrast of \a text against any pixel where a text may stand.
@@ -239,7 +240,7 @@ void tst_looks::statesDiffer_data()
     addStrips();
 }
 
-/// Also to people who do not see all colours, and on a display that shows none.
+/// Also to colour-blind users, and on a display without colours.
 void tst_looks::statesDiffer()
 {
     QFETCH(int, index);

@@ -41,7 +41,7 @@ QStringList filesOf(const TemporaryFolder& folder)
 
 } // namespace
 
-/// A rewritten style file is still the file that it was, for everybody who knows it by name.
+/// For everything that knows it by a name, a rewritten style file is still the same file.
 class tst_widgetstyle_replace : public QObject
 {
     Q_OBJECT
@@ -60,7 +60,7 @@ void tst_widgetstyle_replace::plainFileIsReplacedAsAWhole()
 {
     const TemporaryFolder folder;
     const QString path = folder.write(QLatin1String("style.xml"), styled);
-    QFile reader(path); // keeps the old file, which so is never seen half-written
+    QFile reader(path); // keeps the old file, which is therefore never seen half-written
     QVERIFY(reader.open(QIODevice::ReadOnly));
     QVERIFY(rewrite(path));
     QVERIFY(isNew(path));
@@ -110,7 +110,7 @@ void tst_widgetstyle_replace::otherNamesSeeTheNewContent()
     QCOMPARE(statusOf(path).st_ino, statusOf(other).st_ino);
 }
 
-/// Where the file cannot be replaced, as it has two names, it is written over.
+/// A file with two names cannot be replaced, so it is written over.
 void tst_widgetstyle_replace::nothingIsLeftOfALongerContent()
 {
     const TemporaryFolder folder;
@@ -140,7 +140,7 @@ void tst_widgetstyle_replace::folderWhereNothingCanBeMade()
     const QString path = folder.write(QLatin1String("style.xml"), styled);
     const QByteArray name = QFile::encodeName(path);
     const QByteArray parent = QFile::encodeName(folder.path());
-    const bool isRoot = ::geteuid() == 0; // who may make files everywhere
+    const bool isRoot = ::geteuid() == 0; // root may make files everywhere
     QCOMPARE(::chmod(parent.constData(), 0555), 0);
     QCOMPARE(::chmod(name.constData(), 0666), 0);
     const ino_t before = statusOf(path).st_ino;

@@ -137,7 +137,7 @@ const struct Row {
     // clang-format on
 };
 
-// Nothing is to be said about these.
+// Files without a finding.
 const struct {
     const char* name;
     const char* content;

@@ -65,7 +65,7 @@ bool paints(const QImage& image, const char* color)
     return false;
 }
 
-/// What of the markers is to be seen of \a widget.
+/// Which of the markers \a widget shows.
 int takenParts(QWidget* widget)
 {
     const QImage image = testing::render(widget);

@@ -171,7 +171,7 @@ void addLanguages()
         QTest::newRow(languages[i].name ? languages[i].name : "none") << i;
 }
 
-/// What of the widgets below \a parent stands out of its parent, as text.
+/// Which widgets below \a parent stick out of their own parents, as text.
 QString outside(const QWidget* parent)
 {
     const QList<QWidget*> children = parent->findChildren<QWidget*>();

@@ -281,7 +281,7 @@ void tst_checkbox::keysAndClicksOfQtLeaveTheState()
     QVERIFY(!qtsOwnFlag(box));
 }
 
-/// Who sets it by Qt's own means leaves the box as it is, and announces nothing of it.
+/// Setting it by Qt's own means leaves the box as it is, and announces nothing.
 void tst_checkbox::qtsOwnFlagIsNotUsed()
 {
     CCheckBox bare;

@@ -118,7 +118,7 @@ private Q_SLOTS:
     void everyText();
     void theTextIsOffInTheBeginning();
     void aNewRangeKeepsTheValue();
-    void groundAndBorderOfTheBase();
+    void backgroundAndBorderOfTheBase();
     void everySetterRepaints_data();
     void everySetterRepaints();
 };
@@ -289,7 +289,7 @@ void tst_clockprogress::aNewRangeKeepsTheValue()
     CWIDGET_COMPARE_IMAGES(testing::render(&clock), expected(clock, 0, QString::fromLatin1("4 %")));
 }
 
-void tst_clockprogress::groundAndBorderOfTheBase()
+void tst_clockprogress::backgroundAndBorderOfTheBase()
 {
     CClockProgress clock;
     clock.setSize(60, 60);

@@ -20,12 +20,13 @@ QImage renderViewport(CGraphicsView* view)
     return testing::render(view->viewport());
 }
 
-QImage expectedGround(CGraphicsView* view, int width, const QColor& border, const QColor& ground)
+QImage expectedBackground(CGraphicsView* view, int width, const QColor& border,
+                          const QColor& background)
 {
     QImage image = canvas(view->viewport());
     QPainter painter(&image);
-    if (ground.isValid())
-        painter.fillRect(image.rect(), ground);
+    if (background.isValid())
+        painter.fillRect(image.rect(), background);
     if (width > 0) {
         painter.setPen(QPen(border, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
         painter.drawRect(width / 2, width / 2, image.width() - width, image.height() - width);
@@ -45,7 +46,7 @@ private Q_SLOTS:
     void borderWidthIsKeptAsGiven();
     void settersRepaint();
     void updateParmDoesNothing();
-    void paintsGroundAndBorders();
+    void paintsBackgroundAndBorders();
     void invalidColors();
     void sceneIsDrawnOver();
     void scrollingPaintsTheWholeViewport();
@@ -59,10 +60,10 @@ void tst_graphicsview::defaults()
     view.show();
     QVERIFY(testcompat::waitForWindow(&view));
     CWIDGET_COMPARE_IMAGES(renderViewport(&view),
-                           expectedGround(&view, 0, Qt::white, QColor(0xE0, 0xE0, 0xFF)));
+                           expectedBackground(&view, 0, Qt::white, QColor(0xE0, 0xE0, 0xFF)));
     view.setBorderWidth(2);
     CWIDGET_COMPARE_IMAGES(renderViewport(&view),
-                           expectedGround(&view, 2, Qt::white, QColor(0xE0, 0xE0, 0xFF)));
+                           expectedBackground(&view, 2, Qt::white, QColor(0xE0, 0xE0, 0xFF)));
 }
 
 void tst_graphicsview::sizes()
@@ -87,7 +88,7 @@ void tst_graphicsview::borderWidthIsKeptAsGiven()
     view.setBorderWidth(-3);
     QCOMPARE(view.getBorderWidth(), -3);
     CWIDGET_COMPARE_IMAGES(renderViewport(&view),
-                           expectedGround(&view, 0, Qt::red, QColor(0xE0, 0xE0, 0xFF)));
+                           expectedBackground(&view, 0, Qt::red, QColor(0xE0, 0xE0, 0xFF)));
 }
 
 void tst_graphicsview::settersRepaint()
@@ -113,7 +114,7 @@ void tst_graphicsview::updateParmDoesNothing()
     CWIDGET_COMPARE_IMAGES(renderViewport(&view), before);
 }
 
-void tst_graphicsview::paintsGroundAndBorders()
+void tst_graphicsview::paintsBackgroundAndBorders()
 {
     for (int width = 0; width < 6; ++width) {
         CGraphicsView view;
@@ -124,7 +125,7 @@ void tst_graphicsview::paintsGroundAndBorders()
         view.show();
         QVERIFY(testcompat::waitForWindow(&view));
         CWIDGET_COMPARE_IMAGES(renderViewport(&view),
-                               expectedGround(&view, width, Qt::red, Qt::yellow));
+                               expectedBackground(&view, width, Qt::red, Qt::yellow));
     }
 }
 
@@ -136,11 +137,12 @@ void tst_graphicsview::invalidColors()
     view.viewport()->setAutoFillBackground(false);
     view.show();
     QVERIFY(testcompat::waitForWindow(&view));
-    CWIDGET_COMPARE_IMAGES(renderViewport(&view), expectedGround(&view, 0, QColor(), QColor()));
+    CWIDGET_COMPARE_IMAGES(renderViewport(&view), expectedBackground(&view, 0, QColor(), QColor()));
     view.setBackgroundColor(Qt::green);
     view.setBorderColor(QColor());
     view.setBorderWidth(2);
-    CWIDGET_COMPARE_IMAGES(renderViewport(&view), expectedGround(&view, 2, Qt::green, Qt::green));
+    CWIDGET_COMPARE_IMAGES(renderViewport(&view),
+                           expectedBackground(&view, 2, Qt::green, Qt::green));
 }
 
 void tst_graphicsview::sceneIsDrawnOver()

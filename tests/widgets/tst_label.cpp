@@ -16,7 +16,7 @@ using testing::testFont;
 namespace
 {
 
-const QColor ground(0xE0, 0xE0, 0xFF);
+const QColor background(0xE0, 0xE0, 0xFF);
 
 /// A label of 100 x 28 pixels with a test's font.
 struct Label : CLabel {
@@ -56,7 +56,7 @@ private Q_SLOTS:
     void textSizeSetsTheFont();
     void textSizeBelowZeroIsZeroAndHides();
     void textSizeZeroPrintsNoWarning();
-    void newLabelDrawsItsGroundOnly();
+    void newLabelDrawsItsBackgroundOnly();
     void textOnOneLine_data();
     void textOnOneLine();
     void anyOtherWrapModeIsNoWrap();
@@ -82,7 +82,7 @@ void tst_label::defaults()
     QCOMPARE(label.minimumHeight(), 28);
     QCOMPARE(label.maximumHeight(), 28);
     QCOMPARE(label.maximumWidth(), QWIDGETSIZE_MAX);
-    QCOMPARE(label.getBackgroundColor(), ground);
+    QCOMPARE(label.getBackgroundColor(), background);
     QVERIFY(label.font().pixelSize() != 9); // the text size of 9 is not applied by itself
     QVERIFY(label.initialize());
     const QMetaObject& meta = CLabel::staticMetaObject;
@@ -143,11 +143,11 @@ void tst_label::textSizeBelowZeroIsZeroAndHides()
     label.setText(QLatin1String("Name"));
     const QImage shown = render(&label);
     label.setTextSize(-4);
-    CWIDGET_COMPARE_IMAGES(render(&label), canvas(&label, ground));
+    CWIDGET_COMPARE_IMAGES(render(&label), canvas(&label, background));
     label.setTextSize(13);
     CWIDGET_COMPARE_IMAGES(render(&label), shown);
     label.setTextSize(0);
-    CWIDGET_COMPARE_IMAGES(render(&label), canvas(&label, ground));
+    CWIDGET_COMPARE_IMAGES(render(&label), canvas(&label, background));
     QCOMPARE(label.font().pixelSize(), 13);
 }
 
@@ -160,10 +160,10 @@ void tst_label::textSizeZeroPrintsNoWarning()
     QCOMPARE(messages.warnings(), QStringList());
 }
 
-void tst_label::newLabelDrawsItsGroundOnly()
+void tst_label::newLabelDrawsItsBackgroundOnly()
 {
     Label label;
-    CWIDGET_COMPARE_IMAGES(render(&label), canvas(&label, ground));
+    CWIDGET_COMPARE_IMAGES(render(&label), canvas(&label, background));
 }
 
 void tst_label::textOnOneLine_data()
@@ -184,10 +184,10 @@ void tst_label::textOnOneLine()
         label.setText(QLatin1String(texts[i]));
         if (alignment >= 0)
             label.setAlignment(static_cast<Qt::Alignment>(alignment));
-        QImage expected = canvas(&label, ground);
+        QImage expected = canvas(&label, background);
         paintText(&expected, label, alignment >= 0 ? alignment : 129, label.text());
         CWIDGET_COMPARE_IMAGES(render(&label), expected);
-        QVERIFY(expected != canvas(&label, ground));
+        QVERIFY(expected != canvas(&label, background));
     }
 }
 
@@ -199,7 +199,7 @@ void tst_label::anyOtherWrapModeIsNoWrap()
         Label label;
         label.setText(QLatin1String("a text that does not fit into the label at all"));
         label.setWrapMode(static_cast<CLabel::WrapMode>(modes[i]));
-        QImage expected = canvas(&label, ground);
+        QImage expected = canvas(&label, background);
         paintText(&expected, label, 129, label.text());
         CWIDGET_COMPARE_IMAGES(render(&label), expected);
     }
@@ -211,7 +211,7 @@ void tst_label::textColor()
     label.setText(QLatin1String("Name"));
     label.setCornerText(QLatin1String("mm"));
     label.setTextColor(Qt::red);
-    QImage expected = canvas(&label, ground);
+    QImage expected = canvas(&label, background);
     paintText(&expected, label, 129, label.text(), Qt::red);
     paintText(&expected, label, 130, label.cornerText(), Qt::red);
     CWIDGET_COMPARE_IMAGES(render(&label), expected);
@@ -224,7 +224,7 @@ void tst_label::cornerText()
     label.setAlignment(Qt::AlignCenter);
     label.setText(QLatin1String("12"));
     label.setCornerText(QLatin1String("mm"));
-    QImage expected = canvas(&label, ground);
+    QImage expected = canvas(&label, background);
     paintText(&expected, label, 132, label.text());
     paintText(&expected, label, 130, label.cornerText());
     CWIDGET_COMPARE_IMAGES(render(&label), expected);
@@ -235,7 +235,7 @@ void tst_label::cornerTextOverMainText()
     Label label;
     label.setText(QLatin1String("a main text up to the right edge"));
     label.setCornerText(QLatin1String("mm"));
-    QImage expected = canvas(&label, ground);
+    QImage expected = canvas(&label, background);
     paintText(&expected, label, 129, label.text());
     paintText(&expected, label, 130, label.cornerText());
     CWIDGET_COMPARE_IMAGES(render(&label), expected);
@@ -245,14 +245,14 @@ void tst_label::cornerTextWithoutMainText()
 {
     Label label;
     label.setCornerText(QLatin1String("mm"));
-    QImage expected = canvas(&label, ground);
+    QImage expected = canvas(&label, background);
     paintText(&expected, label, 130, label.cornerText());
     CWIDGET_COMPARE_IMAGES(render(&label), expected);
     // Inside the margins: nothing in the last two columns.
     const QImage actual = render(&label);
     for (int y = 0; y < 28; ++y) {
-        QCOMPARE(actual.pixel(98, y), ground.rgb());
-        QCOMPARE(actual.pixel(99, y), ground.rgb());
+        QCOMPARE(actual.pixel(98, y), background.rgb());
+        QCOMPARE(actual.pixel(99, y), background.rgb());
     }
 }
 
@@ -264,7 +264,7 @@ void tst_label::textSizeZeroShowsOnlyTheCornerText()
         label.setText(QLatin1String("a main text that is longer than the label"));
         label.setCornerText(QLatin1String("mm"));
         label.setTextSize(0);
-        QImage expected = canvas(&label, ground);
+        QImage expected = canvas(&label, background);
         paintText(&expected, label, 130, label.cornerText());
         CWIDGET_COMPARE_IMAGES(render(&label), expected);
     }
@@ -275,7 +275,7 @@ void tst_label::styleFileGivesTheFont()
     const testing::StyleFile file("CLabel", 23);
     CLabel label;
     QCOMPARE(label.font().pixelSize(), 23);
-    QCOMPARE(label.getBackgroundColor(), ground);
+    QCOMPARE(label.getBackgroundColor(), background);
 }
 
 void tst_label::widgetStyle()

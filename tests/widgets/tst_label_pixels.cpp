@@ -5,7 +5,7 @@
 
 #include <QPainter>
 
-// Wrapped labels beside what they are defined by: one drawText() for each character in its cell.
+// Wrapped labels compared with their definition: one drawText() for each character in its cell.
 
 using testing::Random;
 
@@ -320,8 +320,8 @@ private Q_SLOTS:
     void randomLabels();
 };
 
-/// Of some characters, Qt measures others than before once it has drawn them, or has forgotten
-/// their font: those are painted once more.
+/// Qt measures some characters differently once it has drawn them, or has forgotten their font:
+/// labels with such characters are painted once more.
 void tst_label_pixels::randomLabels()
 {
     int shown = 0;

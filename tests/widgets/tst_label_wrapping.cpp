@@ -13,7 +13,7 @@ using testing::testFont;
 namespace
 {
 
-const QColor ground(0xE0, 0xE0, 0xFF);
+const QColor background(0xE0, 0xE0, 0xFF);
 const int top = 5;
 const int lineHeight = 20;
 const int leftMargin = 2;
@@ -32,10 +32,10 @@ int labelFor(const char* text)
     return leftMargin + width + 1 + 2;
 }
 
-/// What a label shows that has these lines, one below the other; an empty one is left blank.
+/// What a label with these lines shows, one below the other; an empty line is left blank.
 QImage lines(const QWidget& label, const QStringList& texts)
 {
-    QImage image = canvas(&label, ground);
+    QImage image = canvas(&label, background);
     QPainter painter(&image);
     painter.setPen(Qt::black);
     painter.setFont(testFont(13));
@@ -146,7 +146,7 @@ void tst_label_wrapping::wordWrapOfAFittingTextUsesTheAlignment()
     label.setAlignment(Qt::AlignRight | Qt::AlignBottom);
     const int width = testcompat::textWidth(QFontMetrics(testFont(13)), latin("fits well"));
     label.setSize(leftMargin + width + 1 + 2, 60);
-    QImage expected = canvas(&label, ground);
+    QImage expected = canvas(&label, background);
     QPainter painter(&expected);
     painter.setPen(Qt::black);
     painter.setFont(testFont(13));
@@ -191,7 +191,7 @@ void tst_label_wrapping::lookBackEndsWithTheLine()
     CWIDGET_COMPARE_IMAGES(render(&label), lines(label, expected));
 }
 
-/// All of these are as wide as each other, so that the line is used up just before its blank.
+/// All of these are equally wide, so that the line is used up just before its blank.
 void tst_label_wrapping::lookBackEndsWhereNothingOfTheLineIsLeft()
 {
     const QFontMetrics metrics(testFont(13));
@@ -230,7 +230,7 @@ void tst_label_wrapping::labelsNarrowerThanAGlyph()
             label.setSize(width, 100);
             label.setWrapMode(static_cast<CLabel::WrapMode>(mode));
             label.setText(latin("WWW WW"));
-            CWIDGET_COMPARE_IMAGES(render(&label), canvas(&label, ground));
+            CWIDGET_COMPARE_IMAGES(render(&label), canvas(&label, background));
         }
     }
 }

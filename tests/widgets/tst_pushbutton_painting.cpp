@@ -50,12 +50,12 @@ class tst_pushbutton_painting : public QObject
 
 private Q_SLOTS:
     void newButton();
-    void groundWithAlpha();
-    void noGround();
+    void backgroundWithAlpha();
+    void noBackground();
     void border();
     void borderUnderPicture();
     void pictureFillsTheButton();
-    void pictureWithHolesShowsGroundAndBorder();
+    void pictureWithHolesShowsBackgroundAndBorder();
     void textIsCentred();
     void textSizeZeroHidesTheText();
     void negativeTextSizeShowsTheText();
@@ -75,7 +75,7 @@ void tst_pushbutton_painting::newButton()
     CWIDGET_COMPARE_IMAGES(render(&button), canvas(&button, QColor(0x63, 0x5E, 0x80)));
 }
 
-void tst_pushbutton_painting::groundWithAlpha()
+void tst_pushbutton_painting::backgroundWithAlpha()
 {
     CPushButton button;
     const QColor color(200, 0, 0, 100);
@@ -90,7 +90,7 @@ void tst_pushbutton_painting::groundWithAlpha()
     CWIDGET_COMPARE_IMAGES(render(&button), expected);
 }
 
-void tst_pushbutton_painting::noGround()
+void tst_pushbutton_painting::noBackground()
 {
     CPushButton button;
     button.setBackgroundColor(QColor());
@@ -133,7 +133,7 @@ void tst_pushbutton_painting::pictureFillsTheButton()
     }
 }
 
-void tst_pushbutton_painting::pictureWithHolesShowsGroundAndBorder()
+void tst_pushbutton_painting::pictureWithHolesShowsBackgroundAndBorder()
 {
     CPushButton button;
     button.setBackgroundColor(Qt::white);

@@ -56,16 +56,16 @@ QFont underlined()
 
 // ---- what changes of every widget
 
-/// Not of one with a style sheet: Qt forgets a palette when the sheet is set once more, as a new
-/// font does it, but only after the first paint.
-void setPalette(QWidget* widget, Qt::GlobalColor ground, Qt::GlobalColor text)
+/// Not of a widget with a style sheet: Qt forgets a palette when the sheet is set once more, as it
+/// is for a new font, but only after the first paint.
+void setPalette(QWidget* widget, Qt::GlobalColor background, Qt::GlobalColor text)
 {
     if (!widget->styleSheet().isEmpty())
         return;
     QPalette palette = widget->palette();
-    palette.setColor(QPalette::Window, ground);
-    palette.setColor(QPalette::Base, ground);
-    palette.setColor(QPalette::Button, ground);
+    palette.setColor(QPalette::Window, background);
+    palette.setColor(QPalette::Base, background);
+    palette.setColor(QPalette::Button, background);
     palette.setColor(QPalette::WindowText, text);
     palette.setColor(QPalette::Text, text);
     palette.setColor(QPalette::ButtonText, text);
@@ -103,13 +103,13 @@ void setShortText(QWidget* widget)
 }
 
 template <typename Widget>
-void setBlackGround(QWidget* widget)
+void setBlackBackground(QWidget* widget)
 {
     as<Widget>(widget)->setBackgroundColor(Qt::black);
 }
 
 template <typename Widget>
-void setClearGround(QWidget* widget)
+void setClearBackground(QWidget* widget)
 {
     as<Widget>(widget)->setBackgroundColor(QColor(200, 0, 0, 100));
 }
@@ -167,8 +167,8 @@ const Change buttonChanges[] = {
      [](QWidget* widget) {
          as<CPushButton>(widget)->setIcon(QIcon(picture(QSize(16, 16), Qt::blue)));
      }},
-    {"background", setBlackGround<CPushButton>},
-    {"clear background", setClearGround<CPushButton>},
+    {"background", setBlackBackground<CPushButton>},
+    {"clear background", setClearBackground<CPushButton>},
     {"border", setRedBorder<CPushButton>},
 };
 
@@ -195,8 +195,8 @@ const Change labelChanges[] = {
     {"alignment", [](QWidget* widget) { as<CLabel>(widget)->setAlignment(Qt::AlignRight); }},
     {"text colour", setGreenText<CLabel>},
     {"style font", setStyleFont<CLabel>},
-    {"background", setBlackGround<CLabel>},
-    {"clear background", setClearGround<CLabel>},
+    {"background", setBlackBackground<CLabel>},
+    {"clear background", setClearBackground<CLabel>},
     {"picture",
      [](QWidget* widget) { as<CLabel>(widget)->setBackground(picture(QSize(9, 9), Qt::cyan)); }},
     {"border", setRedBorder<CLabel>},
@@ -209,7 +209,7 @@ const Change checkBoxChanges[] = {
     {"checked", [](QWidget* widget) { as<CCheckBox>(widget)->setChecked(true); }},
     {"no border", hideBorder<CCheckBox>},
     {"colour", [](QWidget* widget) { as<CCheckBox>(widget)->setForegroundColor(Qt::green); }},
-    {"background", setBlackGround<CCheckBox>},
+    {"background", setBlackBackground<CCheckBox>},
     {"style font", setStyleFont<CCheckBox>},
 };
 
@@ -261,18 +261,18 @@ const Change clockChanges[] = {
      }},
     {"value", [](QWidget* widget) { as<CClockProgress>(widget)->setValue(63); }},
     {"format", [](QWidget* widget) { as<CClockProgress>(widget)->setFormat(1); }},
-    {"background", setBlackGround<CClockProgress>},
+    {"background", setBlackBackground<CClockProgress>},
 };
 
 const Change titleChanges[] = {
     {"title", [](QWidget* widget) { as<CTopTitleArea>(widget)->setTitle(latin("Title")); }},
     {"other title", [](QWidget* widget) { as<CTopTitleArea>(widget)->setTitle(latin("Other")); }},
-    {"background", setBlackGround<CTopTitleArea>},
+    {"background", setBlackBackground<CTopTitleArea>},
 };
 
 const Change widgetChanges[] = {
-    {"background", setBlackGround<CWidget>},
-    {"clear background", setClearGround<CWidget>},
+    {"background", setBlackBackground<CWidget>},
+    {"clear background", setClearBackground<CWidget>},
     {"border", setRedBorder<CWidget>},
     {"thick border", setThickBorder<CWidget>},
     {"transparency", [](QWidget* widget) { as<CWidget>(widget)->setTransparency(70); }},
@@ -281,13 +281,13 @@ const Change widgetChanges[] = {
 };
 
 const Change dialogChanges[] = {
-    {"background", setBlackGround<CDialog>},
+    {"background", setBlackBackground<CDialog>},
     {"border", setRedBorder<CDialog>},
     {"thick border", setThickBorder<CDialog>},
 };
 
 const Change viewChanges[] = {
-    {"background", setBlackGround<CGraphicsView>},
+    {"background", setBlackBackground<CGraphicsView>},
     {"border", setRedBorder<CGraphicsView>},
     {"thick border", setThickBorder<CGraphicsView>},
 };
@@ -296,7 +296,7 @@ const Change pageBarChanges[] = {
     {"pages", [](QWidget* widget) { as<CPageBar>(widget)->setCount(7); }},
     {"page", [](QWidget* widget) { as<CPageBar>(widget)->setCurrentIndex(3); }},
     {"text colour", setGreenText<CPageBar>},
-    {"background", setBlackGround<CPageBar>},
+    {"background", setBlackBackground<CPageBar>},
 };
 
 const Change rowChanges[] = {

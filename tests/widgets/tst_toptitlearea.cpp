@@ -19,7 +19,7 @@ private Q_SLOTS:
     void titleIsStoredAndRepaints();
     void paintsTitleOnItsBaseline();
     void longTitleIsCutOff();
-    void groundAndBorderAreUnderTheTitle();
+    void backgroundAndBorderAreUnderTheTitle();
     void fontComesFromItsOwnStyle();
     void styleIsOffWithoutAutoStyle();
     void sizeHintCoversTheTitle();
@@ -70,7 +70,7 @@ void tst_toptitlearea::longTitleIsCutOff()
     CWIDGET_COMPARE_IMAGES(render(&area), expected);
 }
 
-void tst_toptitlearea::groundAndBorderAreUnderTheTitle()
+void tst_toptitlearea::backgroundAndBorderAreUnderTheTitle()
 {
     CTopTitleArea area;
     area.setSize(60, 30);
