@@ -44,6 +44,14 @@ add_custom_target(docs
 if(CWIDGET_INSTALL AND NOT CWIDGET_SUFFIX)
   install(DIRECTORY "${CWIDGET_DOCS_DIR}/html" DESTINATION "${CMAKE_INSTALL_DOCDIR}"
     COMPONENT documentation OPTIONAL PATTERN "*.qhp" EXCLUDE)
-  install(FILES "${CWIDGET_DOCS_DIR}/quorlin-cwidget.qch" DESTINATION "${CMAKE_INSTALL_DOCDIR}"
-    COMPONENT documentation OPTIONAL)
+  # install(FILES) would make the folder even where there is no such file, and uninstall leave it.
+  set(help "${CWIDGET_DOCS_DIR}/quorlin-cwidget.qch")
+  set(destination "${CMAKE_INSTALL_DOCDIR}")
+  if(NOT IS_ABSOLUTE "${destination}")
+    string(PREPEND destination "\${CMAKE_INSTALL_PREFIX}/")
+  endif()
+  install(CODE "
+    if(EXISTS \"${help}\")
+      file(INSTALL DESTINATION \"${destination}\" TYPE FILE FILES \"${help}\")
+    endif()" COMPONENT documentation)
 endif()
