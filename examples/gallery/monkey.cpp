@@ -25,8 +25,8 @@
 namespace
 {
 
-// From the middle to the end, in bytes. Qt's caches of fonts and texts hold up to 500 kB more or
-// less at times; 50,000 steps that lose 32 bytes each lose three times as much.
+// From the middle to the end, in bytes. Qt's caches of fonts and texts hold up to 750 kB more or
+// less at times; 50,000 steps that lose 32 bytes each lose twice as much.
 const qint64 mostGrowth = 1024 * 1024;
 const int warmSteps = 10000; // with fewer of them the caches are still filling
 const int beyondEdge = 20;   // pixels that a finger slides out of the panel
