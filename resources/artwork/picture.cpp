@@ -21,6 +21,30 @@ void drawCellAt(QPainter& painter, const Picture& picture, int index)
     painter.restore();
 }
 
+int withoutAlpha(int channel, int alpha)
+{
+    return alpha == 0 ? 0 : (channel * 255 + alpha / 2) / alpha;
+}
+
+/// Qt's own conversion divides by an estimate of the processor's, which is not the same everywhere.
+QImage withAlphaApart(const QImage& image)
+{
+    QImage result(image.size(), QImage::Format_ARGB32);
+    result.setDotsPerMeterX(image.dotsPerMeterX());
+    result.setDotsPerMeterY(image.dotsPerMeterY());
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            const int alpha = qAlpha(pixel);
+            result.setPixel(x, y,
+                            qRgba(withoutAlpha(qRed(pixel), alpha),
+                                  withoutAlpha(qGreen(pixel), alpha),
+                                  withoutAlpha(qBlue(pixel), alpha), alpha));
+        }
+    }
+    return result;
+}
+
 } // namespace
 
 QSize cellSize(const Picture& picture)
@@ -40,5 +64,5 @@ QImage render(const Picture& picture)
     for (int index = 0; index < picture.columns * picture.rows; ++index)
         drawCellAt(painter, picture, index);
     painter.end();
-    return image.convertToFormat(QImage::Format_ARGB32);
+    return withAlphaApart(image);
 }
