@@ -109,6 +109,14 @@ echo "== a consumer with CMake"
 "$cmake" --build "$stage/cmake" >"$stage/build.log" || { cat "$stage/build.log"; exit 1; }
 "$stage/cmake/consumer" "$(cat "$stage/cmake/stylefile")"
 
+if [ "$qt" != 6 ]; then # the examples ask for the library's usual name
+    echo "== the examples, as a project"
+    "$cmake" -S "$consumer/../../../examples" -B "$stage/examples" -G "$generator" \
+        -DCMAKE_CXX_COMPILER="$cxx" -DCMAKE_PREFIX_PATH="$prefix" \
+        ${qmake:+"-DQT_QMAKE_EXECUTABLE=$qmake"} >"$stage/examples.log" 2>&1 ||
+        { cat "$stage/examples.log"; exit 1; }
+fi
+
 echo "== a consumer with pkg-config"
 for module in Core Gui Widgets Xml; do
     if [ "$qt" = 4 ] && [ $module = Widgets ]; then continue; fi
