@@ -83,6 +83,8 @@ private Q_SLOTS:
     void nothingIsLeftOver_data();
     void nothingIsLeftOver();
     void boxMayDieBetweenTwoTexts();
+    void boxMayDieOfItsFirstText_data();
+    void boxMayDieOfItsFirstText();
     void touchWithANewTable();
     void touchWithARestriction();
 };
@@ -267,6 +269,27 @@ void tst_combobox_nesting::boxMayDieBetweenTwoTexts()
     box->setCurrentIndex(2);
     QVERIFY(!f.box);
     QCOMPARE(f.taken(), text("row(2) row(5) text(item 5) returned row(2) text(item 2)"));
+}
+
+void tst_combobox_nesting::boxMayDieOfItsFirstText_data()
+{
+    QTest::addColumn<bool>("byIndex");
+    QTest::newRow("chosen by its text") << false;
+    QTest::newRow("chosen by its index") << true;
+}
+
+void tst_combobox_nesting::boxMayDieOfItsFirstText()
+{
+    QFETCH(bool, byIndex);
+    LoggedComboBox f(numberedTexts(7), new ErasedBox);
+    CComboBox* box = f.box;
+    Reaction reaction(box, SIGNAL(currentValueChanged(QString)), [box]() { delete box; });
+    if (byIndex)
+        box->changeCurrentItem(2);
+    else
+        box->changeCurrentText(text("item 2"));
+    QVERIFY(!f.box);
+    QCOMPARE(f.taken(), text("row(2) text(item 2)"));
 }
 
 /// The list tells the index that its slots have left it.
