@@ -34,6 +34,11 @@ private:
 class ErasedBox : public CComboBox
 {
 public:
+    static void* operator new(size_t size) // the counterpart, which compilers ask for
+    {
+        return ::operator new(size);
+    }
+
     static void operator delete(void* memory, size_t size)
     {
         memset(memory, 0xdd, size);
