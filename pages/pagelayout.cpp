@@ -14,7 +14,7 @@ void setUp(QVBoxLayout* layout)
 } // namespace
 
 /// The layout of \a parent, without rows, with a stretch at its end.
-PageLayout::PageLayout(QWidget* parent) : QVBoxLayout(parent)
+PageLayout::PageLayout(QWidget* parent) : QVBoxLayout(parent), m_isWalked(false)
 {
     setUp(this);
     setUp(&m_page);
@@ -35,6 +35,25 @@ void PageLayout::setPage(const QList<QWidget*>& rows)
     for (int i = 0; i < rows.size(); ++i)
         m_page.insertItem(i, new QWidgetItem(rows.at(i)));
     invalidate();
+}
+
+/// Activates the layout. Qt begins with a walk over the items and has each of them forget its
+/// sizes, which rows off the page need not: a row tells its item when its size changes. So that
+/// walk, and nothing after it, gets to see the items of the page only.
+void PageLayout::activatePage()
+{
+    m_isWalked = true;
+    activate();
+    m_isWalked = false;
+}
+
+QLayoutItem* PageLayout::itemAt(int index) const
+{
+    if (!m_isWalked)
+        return QVBoxLayout::itemAt(index);
+    QLayoutItem* const item = m_page.itemAt(index);
+    m_isWalked = item != nullptr;
+    return item;
 }
 
 bool PageLayout::hasHeightForWidth() const

@@ -15,7 +15,9 @@ public:
     ~PageLayout() override;
 
     void setPage(const QList<QWidget*>& rows);
+    void activatePage();
 
+    QLayoutItem* itemAt(int index) const override;
     bool hasHeightForWidth() const override;
     QSize sizeHint() const override;
     QSize minimumSize() const override;
@@ -27,6 +29,7 @@ public:
 private:
     QVBoxLayout m_page;
     QList<QWidget*> m_rows;
+    mutable bool m_isWalked;
 
     Q_DISABLE_COPY(PageLayout)
 };

@@ -224,7 +224,7 @@ void CPageListWidgetItemArea::resumeLayout()
 {
     m_layout->setEnabled(true);
     if (isVisible())
-        m_layout->activate();
+        m_layout->activatePage();
 }
 
 /// Fixes the size of the area, and with it that of all rows, in pixels.
