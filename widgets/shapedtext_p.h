@@ -11,7 +11,7 @@ class QPainter;
 class QRect;
 
 /// Draws a text in the middle of an area, pixel by pixel as QPainter::drawText() does, but shapes
-/// it only when it draws another text, or the same one in another font or on another device.
+/// it once: when it is drawn for the second time, in the same font and on the same kind of device.
 class ShapedText
 {
 public:
@@ -20,13 +20,17 @@ public:
     void draw(QPainter* painter, const QRect& area, const QString& text);
 
 private:
-    bool isShapeOf(const QPainter* painter, const QString& text) const;
-    void shape(QPainter* painter, const QString& text);
+    bool hasShape(QPainter* painter, const QString& text);
+    bool wasDrawn(const QPainter* painter, const QString& text) const;
+    void note(const QPainter* painter, const QString& text);
+    void shape(QPainter* painter);
+    bool fits(const QRect& area) const;
     QPointF place(const QRectF& area) const;
 
     QString m_text;
     QFont m_font;
     QString m_family;
+    bool m_isShaped;
     int m_dpi;
     QStaticText m_shape;
     QSizeF m_size;

@@ -49,6 +49,7 @@ private Q_SLOTS:
     void slotPaintsTheTouchedButton();
     void buttonsShareTheirPictures();
     void heapOfAButton();
+    void heapOfAShapedText();
     void clockPaintsOncePerFrame();
     void sheetsOfALineEdit();
 };
@@ -104,6 +105,32 @@ void tst_cost::heapOfAButton()
         newButton(&panel);
     const size_t each = (testing::heapInUse() - before) / count;
     QVERIFY2(each > 0 && each <= most, qPrintable(QString::number(each)));
+}
+
+/// A text gets its shape with its second paint: a screen that is painted once pays for none.
+void tst_cost::heapOfAShapedText()
+{
+    if (!testing::isHeapKnown())
+        CWIDGET_SKIP("the heap of this program cannot be measured");
+    const int count = 100;
+    const int leastOfShape = 100;
+    const int mostOfOtherPaints = 5;
+    QWidget panel;
+    panel.resize(1200, 400);
+    for (int i = 0; i < count; ++i) {
+        CPushButton* button = newButton(&panel);
+        button->setFont(testing::testFont(14));
+        button->move(i % 10 * 120, i / 10 * 40); // else Qt paints only the topmost one
+    }
+    testing::render(&panel);
+    int grown[2];
+    for (size_t i = 0; i < sizeof grown / sizeof grown[0]; ++i) {
+        const size_t before = testing::heapInUse();
+        testing::render(&panel);
+        grown[i] = static_cast<int>(testing::heapInUse() - before) / count;
+    }
+    const QString found = QString::fromLatin1("%1, %2").arg(grown[0]).arg(grown[1]);
+    QVERIFY2(grown[0] >= leastOfShape && grown[1] <= mostOfOtherPaints, qPrintable(found));
 }
 
 void tst_cost::clockPaintsOncePerFrame()
