@@ -4,6 +4,7 @@
 
 #include <QPainter>
 #include <QPen>
+#include <QPixmap>
 #include <QWidget>
 
 namespace painting
@@ -30,6 +31,14 @@ bool isAligned(const QPainter* painter)
 bool isOpaque(const QColor& color)
 {
     return color.isValid() && color.alpha() == opaqueAlpha;
+}
+
+/// Whether \a pixmap, drawn into \a rect, hides all that is there, pixel for pixel.
+bool isCovered(const QPainter* painter, const QRect& rect, const QPixmap& pixmap)
+{
+    const bool isBitmap = pixmap.depth() == 1; // whose zeros are clear
+    return pixmap.size() == rect.size() && !isBitmap && !pixmap.hasAlphaChannel() &&
+           isAligned(painter) && !(painter->opacity() < 1);
 }
 
 /// Where a pen of \a borderWidth pixels runs so that all of it lies inside \a size.

@@ -5,6 +5,7 @@
 #include <QRect>
 
 class QPainter;
+class QPixmap;
 class QWidget;
 
 // What several widgets paint alike.
@@ -13,6 +14,7 @@ namespace painting
 
 bool isAligned(const QPainter* painter);
 bool isOpaque(const QColor& color);
+bool isCovered(const QPainter* painter, const QRect& rect, const QPixmap& pixmap);
 QRect borderRect(const QSize& size, int borderWidth);
 
 void drawFill(QPainter* painter, const QRect& rect, const QColor& color);

@@ -357,9 +357,11 @@ QRect CPushButton::textRect(bool hasIcon) const
     return QRect(left, 0, width() - left, height());
 }
 
+/// Nothing where the picture leaves nothing of it to be seen.
 void CPushButton::drawBackgroundColor(QPainter* painter)
 {
-    painting::drawFill(painter, rect(), m_backgroundColor);
+    if (!painting::isCovered(painter, rect(), m_background))
+        painting::drawFill(painter, rect(), m_backgroundColor);
 }
 
 void CPushButton::drawBorder(QPainter* painter)
