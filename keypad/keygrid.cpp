@@ -176,9 +176,10 @@ CKeyButton* Keys::withCode(int code) const
 /// makes one of it.
 bool Keys::filter(QObject* watched, QEvent* event)
 {
+    if (event->type() != QEvent::MouseButtonPress)
+        return false;
     const QPointer<QObject> receiver(watched); // a slot may delete the grid and this object, too
-    if (event->type() == QEvent::MouseButtonPress)
-        press(qobject_cast<CKeyButton*>(watched));
+    press(qobject_cast<CKeyButton*>(watched));
     return !receiver;
 }
 
