@@ -7,6 +7,7 @@
 #include "style/widgetstyle.h"
 #include "widgets/metrics_p.h"
 #include "widgets/painting_p.h"
+#include "widgets/sheetfont_p.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -258,6 +259,9 @@ void CComboBox::setBorderVisible(bool visible)
 /// Sets the font of the box and of its list.
 void CComboBox::setFont(const QFont& font)
 {
+    if (sheetfont::isStyledBy(this, QLatin1String(boxStyleSheet)) &&
+        sheetfont::hasFont(this, font) && sheetfont::hasFont(m_pageList, font))
+        return;
     const QString sheet = styleSheet();
     setStyleSheet(QString()); // a style sheet could mask the font
     QWidget::setFont(font);

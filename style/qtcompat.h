@@ -38,18 +38,19 @@
 namespace qtcompat
 {
 
-/// The advance of \a text in pixels.
-inline int textWidth(const QFontMetrics& metrics, const QString& text)
+/// The attributes that are set in \a font, one bit for each. The others are those of the parent.
+inline unsigned int setAttributes(const QFont& font)
 {
-#if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
-    return metrics.horizontalAdvance(text);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return font.resolveMask();
 #else
-    return metrics.width(text);
+    return font.resolve();
 #endif
 }
 
-/// The advance of \a text, not rounded.
-inline qreal textWidth(const QFontMetricsF& metrics, const QString& text)
+/// The advance of \a text in pixels, as whole a number as those of the \a metrics.
+template <typename Metrics>
+inline auto textWidth(const Metrics& metrics, const QString& text) -> decltype(metrics.height())
 {
 #if QT_VERSION >= QT_VERSION_CHECK(5, 11, 0)
     return metrics.horizontalAdvance(text);

@@ -4,8 +4,16 @@
 #include "style/widgetstyle.h"
 #include "widgets/metrics_p.h"
 #include "widgets/painting_p.h"
+#include "widgets/sheetfont_p.h"
 
 #include <QPointer>
+
+namespace
+{
+
+const char fieldStyleSheet[] = "border: 0px;"; // the frame is painted here
+
+} // namespace
 
 /// An empty field, 28 pixels high, that opens the general keypad without a title and a range; its
 /// font is that of the style file's entry "CLineEdit".
@@ -22,7 +30,7 @@ CLineEdit::CLineEdit(QWidget* parent)
     setFixedHeight(metrics::controlHeight);
     // The font comes first, as a sheet would have to go away for it.
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CLineEdit"), nullptr));
-    setStyleSheet(QLatin1String("border: 0px;")); // the frame is painted here
+    setStyleSheet(QLatin1String(fieldStyleSheet));
 }
 
 CLineEdit::~CLineEdit()
@@ -148,6 +156,9 @@ void CLineEdit::setAutoStyleEnabled(bool enabled)
 /// Sets the font. The style sheet is away meanwhile: with one, a field ignores its font.
 void CLineEdit::setFont(const QFont& font)
 {
+    if (sheetfont::isStyledBy(this, QLatin1String(fieldStyleSheet)) &&
+        sheetfont::hasFont(this, font))
+        return;
     const QString sheet = styleSheet();
     setStyleSheet(QString());
     QWidget::setFont(font);
