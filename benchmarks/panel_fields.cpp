@@ -1,12 +1,14 @@
 // Fields: single ones, pages of them, and a restyled panel.
 
 #include "bench.h"
+#include "stylefile.h"
 
 #include "pages/combobox.h"
 #include "parm/parmcheckbox.h"
 #include "parm/parmcombobox.h"
 #include "parm/parmlabel.h"
 #include "parm/parmlineedit.h"
+#include "style/widgetstyle.h"
 #include "widgets/label.h"
 #include "widgets/lineedit.h"
 
@@ -21,6 +23,7 @@ namespace
 {
 
 const int restyledCount = 1000;
+const int smallSize = 12; // of letters, in pixels
 const int pageCount = 2;
 const int fieldCount = 10;
 
@@ -127,17 +130,25 @@ void buildPages(benchmark::State& state)
 QFont fontNumber(int number)
 {
     QFont font(QLatin1String("Arial"));
-    font.setPixelSize(12 + number % 2);
+    font.setPixelSize(smallSize + number % 2);
     return font;
 }
 
 void restyleOurs(benchmark::State& state)
 {
+    const bench::StyleFile small(0, smallSize);
+    const bench::StyleFile large(0, smallSize + 1);
     CWidget panel;
     for (int i = 0; i < restyledCount; ++i)
         new CLabel(&panel);
-    while (state.KeepRunning())
+    int number = 0;
+    while (state.KeepRunning()) {
+        state.PauseTiming();
+        CWidgetStyle::initialize((++number % 2 ? large : small).path());
+        state.ResumeTiming();
         panel.updateWidgetStyle();
+    }
+    CWidgetStyle::initialize(QLatin1String(CWIDGET_SOURCE_DIR "/style/widget-style.xml"));
 }
 
 void restyleStock(benchmark::State& state)
