@@ -18,6 +18,7 @@
 namespace
 {
 
+const char ownStyleFile[] = CWIDGET_SOURCE_DIR "/style/widget-style.xml";
 const int columnsOfButtons = 6;
 const int smallSize = 12; // of letters, in pixels
 
@@ -81,6 +82,7 @@ void restyleOurs(benchmark::State& state)
         state.ResumeTiming();
         panel.updateWidgetStyle();
     }
+    CWidgetStyle::initialize(QLatin1String(ownStyleFile));
 }
 
 void restyleStock(benchmark::State& state)
@@ -98,13 +100,15 @@ void restyleStock(benchmark::State& state)
 
 // ---- texts
 
-/// Words of 1 to 9 letters.
 QString prose(int length)
 {
+    static const char* const words[] = {"pressure", "of",    "the", "second", "pump",
+                                        "is",       "above", "its", "limit;", "close",
+                                        "valve",    "7",     "and", "wait"};
+    const int count = sizeof words / sizeof words[0];
     QString text;
     for (int i = 0; text.size() < length; ++i)
-        text +=
-            QString(i * 5 % 9 + 1, QLatin1Char(static_cast<char>('a' + i % 26))) + QLatin1Char(' ');
+        text += QLatin1String(words[i * 5 % count]) + QLatin1String(" ");
     return text.left(length);
 }
 
@@ -215,7 +219,7 @@ int main(int argc, char** argv)
     if (qgetenv("QT_QPA_PLATFORM").isEmpty())
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    CWidgetStyle::initialize(QLatin1String(CWIDGET_SOURCE_DIR "/style/widget-style.xml"));
+    CWidgetStyle::initialize(QLatin1String(ownStyleFile));
     addAll();
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
