@@ -77,7 +77,7 @@ for class in $classes; do
     echo "#include <$class>"
     echo "static_assert(sizeof($class) > 0, \"complete\");"
 done >"$stage/classes.cpp"
-test "$(grep -c include "$stage/classes.cpp")" -ge 34
+test "$(grep -c include "$stage/classes.cpp")" -ge 35
 export PKG_CONFIG_PATH=$libdir/pkgconfig
 read -ra cflags < <(pkg-config --cflags "$name")
 "$cxx" -std=c++"$standard" -fsyntax-only "$stage/classes.cpp" "${cflags[@]}"

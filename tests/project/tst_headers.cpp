@@ -54,6 +54,7 @@ class tst_headers : public QObject
 
 private Q_SLOTS:
     void everyClassHasItsForwardingHeader();
+    void everyClassIsOnTheListOfThePackagesTest();
     void onlyTheClassesAreExported();
     void libraryHasItsSoname();
     void versionIsTheSameEverywhere();
@@ -74,6 +75,15 @@ void tst_headers::everyClassHasItsForwardingHeader()
         const QByteArray text = testing::contentOf(header);
         QVERIFY2(text.contains("class " + declaration), qPrintable(wanted.at(i)));
     }
+}
+
+void tst_headers::everyClassIsOnTheListOfThePackagesTest()
+{
+    QStringList built = QString::fromLatin1(CWIDGET_CLASSES).split(QLatin1Char(' '));
+    built.sort();
+    const QByteArray list =
+        testing::contentOf(QLatin1String(CWIDGET_SOURCE_DIR "/tests/package/classes.txt"));
+    QCOMPARE(QString::fromLatin1(list).trimmed(), built.join(QLatin1String("\n")));
 }
 
 void tst_headers::onlyTheClassesAreExported()
