@@ -32,6 +32,11 @@ while read -r package file; do
     [ -d "$stage/$package" ] || dpkg-deb --extract "$deb" "$stage/$package"
     compgen -G "$stage/$package/usr/$file" >/dev/null || fail "$package lacks $file"
 done <"$here/contents.txt"
+
+echo "== the guide's links"
+"$source/tests/docs/links.sh" "$stage/libquorlin-cwidget-doc/usr/share/doc/libquorlin-cwidget-doc"
+
+echo "== hardening"
 # All addresses are bound, and then made read-only, before the first use.
 programs=0
 while read -r file; do

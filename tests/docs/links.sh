@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
-# links.sh SOURCE: every relative link and picture of README.md, CONTRIBUTING.md and docs/ leads to
-# a file, and the guide's page of contents leads to every page.
+# links.sh FOLDER: every relative link and picture of the pages in FOLDER and its docs/ leads to a file,
+# and the guide's page of contents leads to every page. FOLDER is that of the sources, or the one that
+# the package with the guide installs.
 set -euo pipefail
 cd "$1"
 status=0
 total=0
-for page in README.md CONTRIBUTING.md docs/*.md; do
+for page in *.md docs/*.md; do
     while IFS= read -r link; do
         total=$((total + 1))
         if [ ! -e "$(dirname "$page")/$link" ]; then
