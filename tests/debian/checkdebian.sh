@@ -9,6 +9,7 @@ source=$1
 here=$source/tests/debian
 packages=$source/build/packages
 kept=$source/build/debian
+source "$source/tools/system.sh"
 
 fail() {
     echo "$*" >&2
@@ -49,40 +50,15 @@ while read -r file; do
 done < <(find "$stage" -type f -path '*/usr/*' \( -perm /1 -o -name '*.so*' \))
 [ $programs -ge 5 ] || fail "only $programs programs and libraries"
 
-[ "$(id -u)" -eq 0 ] || skip "only root can make one"
-unshare --mount true 2>"$stage/log" || skip "no mount namespace: $(tail -n 1 "$stage/log")"
-
-# The same release as this system's, from the same sources.
-release=$(sed -n 's/^VERSION_CODENAME=//p' /etc/os-release)
-apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' \
-    'Identifier: Packages' 'Origin: Debian' | sort -u >"$stage/sources"
-mirror=$(awk -v release="$release" '$3 == release { print $2; exit }' "$stage/sources")
-[ -n "$mirror" ] || skip "apt knows no mirror for $release"
-
-system=$kept/$release
+system=$kept/$(cwidget_release)
 archives=$kept/archives
-mkdir -p "$archives/partial"
-if [ ! -d "$system" ]; then
-    echo "== a system"
-    rm -rf --one-file-system "$system.new"
-    if ! debootstrap --variant=minbase --cache-dir="$archives" "$release" "$system.new" "$mirror" \
-        >"$stage/log" 2>&1; then
-        rm -rf --one-file-system "$system.new"
-        skip "debootstrap: $(tail -n 1 "$stage/log")"
-    fi
-    cp "$stage/sources" "$system.new/etc/apt/sources.list"
-    # As for this system's apt; and nothing needs to outlive a cut of the power.
-    apt-config dump | grep -E '^Acquire::(Check-|http::Proxy|https::Proxy|Retries)' \
-        >"$system.new/etc/apt/apt.conf.d/90test" || true
-    echo force-unsafe-io >"$system.new/etc/dpkg/dpkg.cfg.d/test"
-    mv "$system.new" "$system"
-fi
+[ -d "$system" ] || echo "== a system"
+mkdir -p "$kept"
+reason=$(cwidget_make_system "$system" "$archives") || skip "$reason"
 
 echo "== in a fresh system"
-# In a mount namespace, so that nothing stays mounted whatever happens.
 status=0
-unshare --mount --pid --fork --kill-child "$here/entersystem.sh" "$system" "$archives" "$stage" \
-    "$source" || status=$?
+cwidget_in_namespaces "$here/entersystem.sh" "$system" "$archives" "$stage" "$source" || status=$?
 [ $status -ne 77 ] || exit 0
 [ $status -eq 0 ] || fail "the packages do not work in a fresh system"
 echo "ok"

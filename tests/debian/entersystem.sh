@@ -13,11 +13,5 @@ mount -t overlay overlay -o "lowerdir=$system,upperdir=$stage/changes,workdir=$s
 mkdir "$root/test"
 cp "$source"/build/packages/*.deb "$root/test"
 rm -f "$root"/test/*-dbgsym_*.deb
-cp -r "$source/tests/package/consumer" "$source/tests/debian/insystem.sh" "$root/test"
-cp /etc/resolv.conf "$root/etc/resolv.conf"
-
-mount --bind "$archives" "$root/var/cache/apt/archives"
-mount -t proc proc "$root/proc"
-mount --rbind /dev "$root/dev"
-exec chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 HOME=/root \
-    bash /test/insystem.sh
+cp -r "$source/tests/package/consumer" "$source"/tests/debian/{insystem,traces}.sh "$root/test"
+exec "$source/tools/entersystem.sh" "$root" "$archives" bash /test/insystem.sh

@@ -4,6 +4,8 @@
 set -euo pipefail
 export DEBIAN_FRONTEND=noninteractive QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=/test/runtime
 cd /test
+# shellcheck source=tests/debian/traces.sh
+source ./traces.sh
 mkdir -m 700 runtime
 names=$(for deb in ./*.deb; do dpkg-deb --field "$deb" Package; done)
 
@@ -23,13 +25,6 @@ apt_get() {
         -o APT::Keep-Downloaded-Packages=true --no-install-recommends "$@"
 }
 
-# Every path but those of apt and dpkg themselves.
-paths() {
-    find / -xdev \( -path /test -o -path /proc -o -path /dev -o -path /var/cache/apt \
-        -o -path /var/lib/apt -o -path /var/lib/dpkg -o -path /var/log -o -path /tmp \) -prune \
-        -o -print | sort
-}
-
 echo "-- what the packages depend on, and a compiler"
 if ! apt-get -o APT::Update::Error-Mode=any update >log 2>&1; then
     echo "skipped: packages in a fresh system: apt-get update: $(grep -m 1 '^E:' log)"
@@ -39,7 +34,7 @@ others=$(apt-get --simulate --no-install-recommends install ./*.deb | awk '$1 ==
     grep -vxF "$names")
 # shellcheck disable=SC2086
 apt_get install $others g++ ninja-build cmake pkg-config fonts-liberation
-paths >before
+traces_paths "" >before
 
 echo "-- install"
 apt_get install ./*.deb
@@ -100,8 +95,5 @@ echo "-- purge"
 rm -rf /root/.cache /root/.config /root/.local
 # shellcheck disable=SC2086
 apt_get purge $names
-paths >after
-if ! diff before after >log; then fail "this differs from before the installation: $(cat log)"; fi
-left=$(dpkg-query --show --showformat='${Package} ${db:Status-Status}\n' '*quorlin*' 2>/dev/null |
-    grep -v not-installed || true)
-test -z "$left" || fail "dpkg still knows $left"
+traces_paths "" >after
+left=$(traces_left before after '*quorlin*') || fail "$left"
