@@ -9,6 +9,7 @@
 #   ./test.sh --coverage       and says how much of the library the tests run; 98 % of the lines must be
 #   ./test.sh --bench          the benchmarks
 #   ./test.sh --packages       builds the Debian packages, and uses them in a fresh system
+#   ./test.sh --arch arm64     builds for another processor, and runs the tests on an emulated one (Qt 5)
 #   ./test.sh --device         the gallery on the frame buffer of a virtual machine, touched and plugged
 #   ./test.sh --fuzz SECONDS   each fuzzer for so long; 0 replays their seeds only (Qt 5)
 #
@@ -26,6 +27,7 @@ bench=
 coverage=
 fuzz=
 packages=
+arch=
 device=
 while [ $# -gt 0 ]; do
     case $1 in
@@ -36,14 +38,19 @@ while [ $# -gt 0 ]; do
         --coverage) coverage=1; shift ;;
         --bench) bench=1; shift ;;
         --packages) packages=1; shift ;;
+        --arch) arch=${2:?--arch needs arm64}; shift 2 ;;
         --device) device=1; shift ;;
         --fuzz) fuzz=${2:?--fuzz needs a number of seconds}; shift 2 ;;
         --) shift; break ;;
-        *) sed -n '2,14s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
+        *) sed -n '2,15s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
     esac
 done
 if [ "$threads" = ON ] && [ "$qt" != 5 ]; then
     echo "--threads is for Qt 5 only: what tests/support/qtthreads.cpp knows of Qt's locks is that" >&2
+    exit 2
+fi
+if [ -n "$arch" ] && { [ "$arch" != arm64 ] || [ "$qt" != 5 ]; }; then
+    echo "--arch is for arm64 and Qt 5 only" >&2
     exit 2
 fi
 
@@ -60,6 +67,11 @@ if [ -n "$packages" ]; then
     cwidget_install debootstrap lintian util-linux
     ./package.sh
     exec tests/debian/checkdebian.sh "$PWD"
+fi
+
+if [ -n "$arch" ]; then
+    cwidget_install debootstrap util-linux
+    exec tests/cross/checkcross.sh "$PWD" "$@"
 fi
 
 test_packages="clang-format-14 clang-tidy-14 clang-14 shellcheck python3 xvfb openbox xdotool x11-utils usbutils util-linux"

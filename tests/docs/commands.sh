@@ -1,17 +1,18 @@
 #!/usr/bin/env bash
-# commands.sh SOURCE TOOL TUTORIAL
+# commands.sh SOURCE TOOL STEP...
 #
 # Runs the commands that the guide marks as "sh", page by page, in a folder that holds a copy of
 # the library's style file, with cwidget-style and the tutorial's programs in the path.
 set -euo pipefail
-source=$1 tool=$2 tutorial=$3
+source=$1 tool=$2
+shift 2
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 mkdir "$work/bin"
 ln -s "$tool" "$work/bin/cwidget-style"
 # A panel runs until it is closed: that it still runs after a second is what is wanted of it.
-for program in "$tutorial"/tutorial-step?; do
+for program in "$@"; do
     printf '#!/bin/sh\ntimeout 1 "%s" "$@"\ntest $? -eq 124\n' "$program" \
         >"$work/bin/$(basename "$program")"
     chmod +x "$work/bin/$(basename "$program")"

@@ -8,10 +8,11 @@ source=$1
 
 stage=$(mktemp -d)
 trap 'rm -rf "$stage"' EXIT
-mkdir -p "$stage/tests/device" "$stage/tests/debian" "$stage/resources"
+mkdir -p "$stage"/tests/{device,debian,cross} "$stage/resources"
 cp -r "$source/test.sh" "$source/gallery.sh" "$source/.ci" "$source/tools" "$stage"
 cp "$source/tests/scripts/stubs/package" "$stage/package.sh"
 cp "$source/tests/scripts/stubs/package" "$stage/tests/debian/checkdebian.sh"
+cp "$source/tests/scripts/stubs/package" "$stage/tests/cross/checkcross.sh"
 cd "$stage"
 export STUB_LOG=$stage/stub.log
 export PATH=$source/tests/scripts/stubs:$PATH
@@ -82,6 +83,11 @@ check fails "" STUB_FAILS=package.sh ./test.sh --packages
 if grep -q checkdebian "$stage/output"; then complain "packages that were not built are checked"; fi
 check fails "" STUB_FAILS=checkdebian.sh ./test.sh --packages
 
+check 0 "checkcross.sh $stage -R label" ./test.sh --arch arm64 -- -R label
+check fails "" STUB_FAILS=checkcross.sh ./test.sh --arch arm64
+check 2 "--arch is for arm64 and Qt 5 only" ./test.sh --arch riscv64
+check 2 "--arch is for arm64 and Qt 5 only" ./test.sh --qt 6 --arch arm64
+
 check 0 "The pictures are in build/shots." ./gallery.sh
 check 0 "the gallery runs: --log" ./gallery.sh --log
 check fails "The build failed" STUB_FAILS=build ./gallery.sh
@@ -89,6 +95,7 @@ if grep -q "the gallery runs" "$stage/output"; then complain "the gallery runs a
 check 3 "the gallery runs" STUB_GALLERY=3 ./gallery.sh
 
 check 0 "==== ./test.sh --qt 6" .ci/run
+if grep -q checkcross "$stage/output"; then complain ".ci/run runs what is run by hand"; fi
 for folder in test-qt5 test-qt5-sanitize test-qt5-threads test-qt6; do
     check 1 "==== failed:" STUB_FAILS=ctest:$folder .ci/run
     grep -q "==== ./test.sh --qt 6" "$stage/output" || complain ".ci/run stops at the first failure"

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # checksystem.sh SOURCE
 #
-# What is said where no Debian system can be made, and where packages are not as they are to be or leave
-# something behind. Functions stand for the programs that would make a system.
+# What is said where no Debian system can be made, where packages are not as they are to be or leave
+# something behind, and where nothing can be built for another processor. Functions stand for the
+# programs that would make a system.
 set -euo pipefail
 source=$1
 
@@ -11,7 +12,7 @@ trap 'rm -rf "$stage"' EXIT
 mkdir "$stage/project"
 cp -r "$source/tools" "$stage/project"
 mkdir -p "$stage"/project/tests/docs
-cp -r "$source"/tests/debian "$stage/project/tests"
+cp -r "$source"/tests/{debian,cross} "$stage/project/tests"
 printf '#!/bin/sh\n[ "${STUB_FAILS:-}" != links.sh ]\n' >"$stage/project/tests/docs/links.sh"
 chmod +x "$stage/project/tests/docs/links.sh"
 export STUB_LOG=$stage/stub.log
@@ -181,6 +182,31 @@ touch "$stage/root/etc/quorlin.conf"
 traces_paths "$stage/root" >"$stage/after"
 check 1 "> $stage/root/etc/quorlin.conf" left
 check 1 "this differs from before the installation: 2a3" left
+
+# ---- tests/cross
+
+cross() {
+    rm -rf "$stage/project/build/arm64"
+    "$stage/project/tests/cross/checkcross.sh" "$stage/project" -R label
+}
+missing="Nothing is built for arm64, which needs a Debian system of its own:"
+STUB_ID=1000 check 2 "$missing only root can make one: run this as root or with sudo" cross
+STUB_FAILS=debootstrap check 2 "$missing debootstrap: E: Failed getting release file" cross
+STUB_INSYSTEM=8 STUB_SAYS="apt has no packages for arm64" \
+    check 2 "$missing apt has no packages for arm64" cross
+check 0 "Making a system for arm64 in $stage/project/build/arm64/root" cross
+grep -q "insystem.sh $stage/project $stage/project/build/arm64/tests -R label" "$STUB_LOG" ||
+    complain "the tests do not run"
+
+# Each test that is left out there is one, and has a reason.
+total=0
+while read -r name reason; do
+    total=$((total + 1))
+    [ -n "$reason" ] || complain "skipped.txt does not say why $name is skipped"
+    grep -qE "(NAME |[a-z_]*test\(|package_test\()$name( |\)|\$)" "$source"/tests/*/CMakeLists.txt ||
+        complain "skipped.txt names $name, which is no test"
+done < <(grep '^[^#]' "$source/tests/cross/skipped.txt")
+[ "$total" -gt 0 ] || complain "skipped.txt names no test"
 
 [ $failures -eq 0 ] || exit 1
 echo "ok"
