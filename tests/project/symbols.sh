@@ -4,16 +4,16 @@
 # Compares what LIBRARY exports with the symbols file of the Debian package. A symbol that goes breaks
 # the programs of others; one that comes is there for good. Whatever is exported belongs to a public
 # class. With --update it writes the file: a symbol keeps the version that it first came with, a new
-# one gets that of style/version.h.
+# one gets that of style/version.h. NM names the nm for a library of another processor.
 set -euo pipefail
 library=$1
 project=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 list=$project/debian/libquorlin-cwidget1.symbols
 
 exported() {
-    # The linker's own three names end the sections of any library.
-    nm -D --defined-only "$library" | awk '{print $NF}' | grep -vE '^(__bss_start|_edata|_end)$' |
-        c++filt | LC_ALL=C sort -u
+    # The linker's own names end the sections of any library.
+    "${NM:-nm}" -D --demangle --defined-only "$library" | sed 's/^[0-9a-f]* . //' |
+        grep -vE '^(__bss_start(__)?|__?bss_end__|__end__|_edata|_end)$' | LC_ALL=C sort -u
 }
 
 listed() {

@@ -18,9 +18,9 @@ QString forwardingFolder()
 QStringList exportedSymbols()
 {
     QProcess nm;
-    nm.start(QLatin1String("nm"), QStringList()
-                                      << QLatin1String("-DC") << QLatin1String("--defined-only")
-                                      << QLatin1String(CWIDGET_LIBRARY));
+    nm.start(QLatin1String(NM), QStringList()
+                                    << QLatin1String("-DC") << QLatin1String("--defined-only")
+                                    << QLatin1String(CWIDGET_LIBRARY));
     if (!nm.waitForFinished(60000) || nm.exitCode() != 0)
         qFatal("cannot list the symbols of the library");
     QStringList symbols;
@@ -115,7 +115,7 @@ void tst_headers::onlyTheClassesAreExported()
 void tst_headers::libraryHasItsSoname()
 {
     QProcess readelf;
-    readelf.start(QLatin1String("readelf"),
+    readelf.start(QLatin1String(READELF),
                   QStringList() << QLatin1String("-d") << QLatin1String(CWIDGET_LIBRARY));
     QVERIFY(readelf.waitForFinished(60000));
     QVERIFY(readelf.readAllStandardOutput().contains("soname: [lib" CWIDGET_NAME ".so.1]"));
