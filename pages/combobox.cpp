@@ -259,8 +259,8 @@ void CComboBox::setBorderVisible(bool visible)
 /// Sets the font of the box and of its list.
 void CComboBox::setFont(const QFont& font)
 {
-    if (sheetfont::isStyledBy(this, QLatin1String(boxStyleSheet)) &&
-        sheetfont::hasFont(this, font) && sheetfont::hasFont(m_pageList, font))
+    if (sheetfont::isStyledBy(this, boxStyleSheet) && sheetfont::hasFont(this, font) &&
+        sheetfont::hasFont(m_pageList, font))
         return;
     const QString sheet = styleSheet();
     setStyleSheet(QString()); // a style sheet could mask the font

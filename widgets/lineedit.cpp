@@ -156,8 +156,7 @@ void CLineEdit::setAutoStyleEnabled(bool enabled)
 /// Sets the font. The style sheet is away meanwhile: with one, a field ignores its font.
 void CLineEdit::setFont(const QFont& font)
 {
-    if (sheetfont::isStyledBy(this, QLatin1String(fieldStyleSheet)) &&
-        sheetfont::hasFont(this, font))
+    if (sheetfont::isStyledBy(this, fieldStyleSheet) && sheetfont::hasFont(this, font))
         return;
     const QString sheet = styleSheet();
     setStyleSheet(QString());

@@ -11,9 +11,10 @@ namespace sheetfont
 
 /// Whether \a sheet, and no other one, applies to \a widget, which was not polished yet: to take
 /// it off and put it on again then leaves no trace.
-bool isStyledBy(const QWidget* widget, const QLatin1String& sheet)
+bool isStyledBy(const QWidget* widget, const char* sheet)
 {
-    if (widget->testAttribute(Qt::WA_WState_Polished) || widget->styleSheet() != sheet)
+    if (widget->testAttribute(Qt::WA_WState_Polished) ||
+        widget->styleSheet() != QLatin1String(sheet))
         return false;
     for (const QWidget* above = widget->parentWidget(); above; above = above->parentWidget()) {
         if (!above->styleSheet().isEmpty())

@@ -2,7 +2,6 @@
 #define CWIDGET_WIDGETS_SHEETFONT_P_H
 
 class QFont;
-class QLatin1String;
 class QWidget;
 
 // Controls with a style sheet of their own take it off to set their font, as a sheet may hide it,
@@ -10,7 +9,7 @@ class QWidget;
 namespace sheetfont
 {
 
-bool isStyledBy(const QWidget* widget, const QLatin1String& sheet);
+bool isStyledBy(const QWidget* widget, const char* sheet);
 bool hasFont(const QWidget* widget, const QFont& font);
 
 } // namespace sheetfont
