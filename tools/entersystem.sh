@@ -14,6 +14,8 @@ system=$1 archives=$2
 shift 2
 
 cp /etc/resolv.conf "$system/etc/resolv.conf"
+# Its root is a mount point, as programs expect that mount something themselves.
+mount --bind "$system" "$system"
 mount --bind "$archives" "$system/var/cache/apt/archives"
 mount -t proc proc "$system/proc"
 mount --rbind /dev "$system/dev"

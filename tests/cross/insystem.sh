@@ -7,6 +7,8 @@ shift 2
 cd "$source"
 source tools/build.sh
 
+# Where pkg-config finds Qt for arm64.
+export PKG_CONFIG_LIBDIR=/usr/lib/aarch64-linux-gnu/pkgconfig:/usr/share/pkgconfig
 emulator="$(command -v qemu-aarch64-static);-E;LD_PRELOAD=$build/tests/cross/oldkernel.so"
 cwidget_build "$build" "" --toolchain "$source/cmake/arm64.cmake" \
     -DCMAKE_CROSSCOMPILING_EMULATOR="$emulator" \
