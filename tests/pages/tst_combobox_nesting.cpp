@@ -34,7 +34,8 @@ private:
 class ErasedBox : public CComboBox
 {
 public:
-    static void* operator new(size_t size) // the counterpart, which compilers ask for
+    // The counterpart, which compilers ask for; inline, it would be a mismatch to them again.
+    __attribute__((noinline)) static void* operator new(size_t size)
     {
         return ::operator new(size);
     }
