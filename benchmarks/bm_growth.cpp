@@ -2,7 +2,7 @@
 // file. Each beside what stock widgets and Qt's own parser take. The run prints the growth that
 // fits the sizes best.
 
-#include "stylefile.h"
+#include "jobs.h"
 
 #include "style/widgetstyle.h"
 #include "widgets/label.h"
@@ -70,47 +70,15 @@ void buildButtons(benchmark::State& state)
 
 void restyleOurs(benchmark::State& state)
 {
-    const bench::StyleFile small(0, smallSize);
-    const bench::StyleFile large(0, smallSize + 1);
-    CWidget panel;
-    for (int i = 0; i < sizeOf(state); ++i)
-        new CLabel(&panel);
-    int number = 0;
-    while (state.KeepRunning()) {
-        state.PauseTiming();
-        CWidgetStyle::initialize((++number % 2 ? large : small).path());
-        state.ResumeTiming();
-        panel.updateWidgetStyle();
-    }
-    CWidgetStyle::initialize(QLatin1String(ownStyleFile));
+    bench::restyleLabels(state, sizeOf(state));
 }
 
 void restyleStock(benchmark::State& state)
 {
-    QWidget panel;
-    for (int i = 0; i < sizeOf(state); ++i)
-        new QLabel(&panel);
-    QFont font(QLatin1String("Arial"));
-    int number = 0;
-    while (state.KeepRunning()) {
-        font.setPixelSize(smallSize + ++number % 2);
-        panel.setFont(font);
-    }
+    bench::restyleStockLabels(state, sizeOf(state));
 }
 
 // ---- texts
-
-QString prose(int length)
-{
-    static const char* const words[] = {"pressure", "of",    "the", "second", "pump",
-                                        "is",       "above", "its", "limit;", "close",
-                                        "valve",    "7",     "and", "wait"};
-    const int count = sizeof words / sizeof words[0];
-    QString text;
-    for (int i = 0; text.size() < length; ++i)
-        text += QLatin1String(words[i * 5 % count]) + QLatin1String(" ");
-    return text.left(length);
-}
 
 /// Large enough for the whole text.
 QSize sizeFor(int length)
@@ -122,7 +90,7 @@ template <typename Label>
 void paint(benchmark::State& state, Label* label)
 {
     label->setFixedSize(sizeFor(sizeOf(state)));
-    label->setText(prose(sizeOf(state)));
+    label->setText(bench::prose(sizeOf(state)));
     label->show();
     settle();
     while (state.KeepRunning())
@@ -180,36 +148,20 @@ void findEntry(benchmark::State& state)
     }
 }
 
-typedef void (*Job)(benchmark::State& state);
-
-void add(const char* name, Job job)
-{
-    benchmark::RegisterBenchmark(name,
-                                 [job](benchmark::State& state) {
-                                     job(state);
-                                     state.SetComplexityN(state.range(0));
-                                 })
-        ->RangeMultiplier(10)
-        ->Range(10, 10000)
-        ->Complexity()
-        ->MinTime(0.1)
-        ->Unit(benchmark::kMicrosecond);
-}
-
 void addAll()
 {
-    add("buttons/CPushButton", buildButtons<CPushButton>);
-    add("buttons/QPushButton", buildButtons<QPushButton>);
-    add("restyle/CLabel", restyleOurs);
-    add("restyle/QLabel", restyleStock);
-    add("line/CLabel", paintOurs<CLabel::NoWrap>);
-    add("line/QLabel", paintStock<false>);
-    add("words/CLabel", paintOurs<CLabel::WordWrap>);
-    add("words/QLabel", paintStock<true>);
-    add("characters/CLabel", paintOurs<CLabel::CharWrap>);
-    add("styleFile/initialize", readStyle);
-    add("styleFile/QDomDocument", readTree);
-    add("styleFile/getWidgetStyle", findEntry);
+    bench::addGrowing("buttons/CPushButton", buildButtons<CPushButton>);
+    bench::addGrowing("buttons/QPushButton", buildButtons<QPushButton>);
+    bench::addGrowing("restyle/CLabel", restyleOurs);
+    bench::addGrowing("restyle/QLabel", restyleStock);
+    bench::addGrowing("line/CLabel", paintOurs<CLabel::NoWrap>);
+    bench::addGrowing("line/QLabel", paintStock<false>);
+    bench::addGrowing("words/CLabel", paintOurs<CLabel::WordWrap>);
+    bench::addGrowing("words/QLabel", paintStock<true>);
+    bench::addGrowing("characters/CLabel", paintOurs<CLabel::CharWrap>);
+    bench::addGrowing("styleFile/initialize", readStyle);
+    bench::addGrowing("styleFile/QDomDocument", readTree);
+    bench::addGrowing("styleFile/getWidgetStyle", findEntry);
 }
 
 } // namespace

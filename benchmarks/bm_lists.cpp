@@ -3,6 +3,8 @@
 // Every time covers what a user waits for: the job itself and the events that come of it, layout
 // and painting included.
 
+#include "jobs.h"
+
 #include "pages/combobox.h"
 #include "pages/pagebar.h"
 #include "pages/pagelistwidget.h"
@@ -415,44 +417,28 @@ void choose(benchmark::State& state)
     }
 }
 
-typedef void (*Job)(benchmark::State& state);
-
-void add(const char* name, Job job)
-{
-    benchmark::RegisterBenchmark(name,
-                                 [job](benchmark::State& state) {
-                                     job(state);
-                                     state.SetComplexityN(state.range(0));
-                                 })
-        ->RangeMultiplier(10)
-        ->Range(10, 10000)
-        ->Complexity() // how the time grows with the entries, fitted
-        ->MinTime(0.1)
-        ->Unit(benchmark::kMicrosecond);
-}
-
 void addAll()
 {
-    add("build/CPageListWidget", build<PagedList>);
-    add("build/QListWidget", build<StockList>);
-    add("build/CComboBox", build<PagedCombo>);
-    add("build/QComboBox", build<StockCombo>);
-    add("open/CPageListWidget", open<PagedList>);
-    add("open/QListWidget", open<StockList>);
-    add("open/CComboBox", open<PagedCombo>);
-    add("open/QComboBox", open<StockCombo>);
-    add("turnPage/CPageListWidget", turnPage<PagedList>);
-    add("turnPage/QListWidget", turnPage<StockList>);
-    add("paint/CPageListWidget", paint<PagedList>);
-    add("paint/QListWidget", paint<StockList>);
-    add("restrict/CPageListWidget", restrict<PagedList>);
-    add("restrict/QListWidget", restrict<StockList>);
-    add("restrict/CComboBox", restrict<PagedCombo>);
-    add("restrict/QComboBox", restrict<StockCombo>);
-    add("choose/CPageListWidget", choose<PagedList>);
-    add("choose/QListWidget", choose<StockList>);
-    add("choose/CComboBox", choose<PagedCombo>);
-    add("choose/QComboBox", choose<StockCombo>);
+    bench::addGrowing("build/CPageListWidget", build<PagedList>);
+    bench::addGrowing("build/QListWidget", build<StockList>);
+    bench::addGrowing("build/CComboBox", build<PagedCombo>);
+    bench::addGrowing("build/QComboBox", build<StockCombo>);
+    bench::addGrowing("open/CPageListWidget", open<PagedList>);
+    bench::addGrowing("open/QListWidget", open<StockList>);
+    bench::addGrowing("open/CComboBox", open<PagedCombo>);
+    bench::addGrowing("open/QComboBox", open<StockCombo>);
+    bench::addGrowing("turnPage/CPageListWidget", turnPage<PagedList>);
+    bench::addGrowing("turnPage/QListWidget", turnPage<StockList>);
+    bench::addGrowing("paint/CPageListWidget", paint<PagedList>);
+    bench::addGrowing("paint/QListWidget", paint<StockList>);
+    bench::addGrowing("restrict/CPageListWidget", restrict<PagedList>);
+    bench::addGrowing("restrict/QListWidget", restrict<StockList>);
+    bench::addGrowing("restrict/CComboBox", restrict<PagedCombo>);
+    bench::addGrowing("restrict/QComboBox", restrict<StockCombo>);
+    bench::addGrowing("choose/CPageListWidget", choose<PagedList>);
+    bench::addGrowing("choose/QListWidget", choose<StockList>);
+    bench::addGrowing("choose/CComboBox", choose<PagedCombo>);
+    bench::addGrowing("choose/QComboBox", choose<StockCombo>);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // Fields: single ones, pages of them, and a restyled panel.
 
 #include "bench.h"
-#include "stylefile.h"
+#include "jobs.h"
 
 #include "pages/combobox.h"
 #include "parm/parmcheckbox.h"
@@ -23,7 +23,6 @@ namespace
 {
 
 const int restyledCount = 1000;
-const int smallSize = 12; // of letters, in pixels
 const int pageCount = 2;
 const int fieldCount = 10;
 
@@ -127,38 +126,14 @@ void buildPages(benchmark::State& state)
 
 // ---- another font for a thousand widgets
 
-QFont fontNumber(int number)
-{
-    QFont font(QLatin1String("Arial"));
-    font.setPixelSize(smallSize + number % 2);
-    return font;
-}
-
 void restyleOurs(benchmark::State& state)
 {
-    const bench::StyleFile small(0, smallSize);
-    const bench::StyleFile large(0, smallSize + 1);
-    CWidget panel;
-    for (int i = 0; i < restyledCount; ++i)
-        new CLabel(&panel);
-    int number = 0;
-    while (state.KeepRunning()) {
-        state.PauseTiming();
-        CWidgetStyle::initialize((++number % 2 ? large : small).path());
-        state.ResumeTiming();
-        panel.updateWidgetStyle();
-    }
-    CWidgetStyle::initialize(QLatin1String(CWIDGET_SOURCE_DIR "/style/widget-style.xml"));
+    bench::restyleLabels(state, restyledCount);
 }
 
 void restyleStock(benchmark::State& state)
 {
-    QWidget panel;
-    for (int i = 0; i < restyledCount; ++i)
-        new QLabel(&panel);
-    int number = 0;
-    while (state.KeepRunning())
-        panel.setFont(fontNumber(++number));
+    bench::restyleStockLabels(state, restyledCount);
 }
 
 } // namespace

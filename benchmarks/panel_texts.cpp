@@ -1,6 +1,7 @@
 // Labels of 2,000 characters.
 
 #include "bench.h"
+#include "jobs.h"
 
 #include "widgets/label.h"
 
@@ -11,25 +12,13 @@ namespace
 
 const int length = 2000;
 
-QString prose()
-{
-    static const char* const words[] = {"pressure", "of",    "the", "second", "pump",
-                                        "is",       "above", "its", "limit;", "close",
-                                        "valve",    "7",     "and", "wait"};
-    const int count = sizeof words / sizeof words[0];
-    QString text;
-    for (int i = 0; text.size() < length; ++i)
-        text += QLatin1String(words[i * 5 % count]) + QLatin1String(" ");
-    return text.left(length);
-}
-
 template <CLabel::WrapMode mode>
 void paintOurs(benchmark::State& state)
 {
     CLabel label;
     label.setFixedSize(600, 560);
     label.setWrapMode(mode);
-    label.setText(prose());
+    label.setText(bench::prose(length));
     label.show();
     bench::settle();
     while (state.KeepRunning())
@@ -43,7 +32,7 @@ void paintStock(benchmark::State& state)
     label.setFixedSize(600, 560);
     label.setAutoFillBackground(true);
     label.setWordWrap(wrap);
-    label.setText(prose());
+    label.setText(bench::prose(length));
     label.show();
     bench::settle();
     while (state.KeepRunning())
