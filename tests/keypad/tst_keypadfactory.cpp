@@ -9,14 +9,10 @@
 using testing::keyOf;
 using testing::KeyPadUser;
 using testing::touch;
+using testing::type;
 
 namespace
 {
-
-CKeyPadFactory::KeyPadType type(int number)
-{
-    return static_cast<CKeyPadFactory::KeyPadType>(number);
-}
 
 /// A window that is the active one while it lives.
 class ActiveWindow : public QWidget

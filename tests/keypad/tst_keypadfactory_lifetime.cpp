@@ -10,6 +10,7 @@
 using testing::keyOf;
 using testing::KeyPadUser;
 using testing::touch;
+using testing::type;
 
 namespace
 {
@@ -30,11 +31,6 @@ qint64 residentMemory()
 {
     const QList<QByteArray> pages = testing::contentOf("/proc/self/statm").split(' ');
     return pages.size() > 1 ? pages.at(1).toLongLong() * 4096 : -1;
-}
-
-CKeyPadFactory::KeyPadType type(int number)
-{
-    return static_cast<CKeyPadFactory::KeyPadType>(number);
 }
 
 } // namespace

@@ -12,14 +12,10 @@
 using testing::keyOf;
 using testing::keysOf;
 using testing::touch;
+using testing::type;
 
 namespace
 {
-
-CKeyPadFactory::KeyPadType type(int number)
-{
-    return static_cast<CKeyPadFactory::KeyPadType>(number);
-}
 
 CKeyPadEdit* editOf(const QWidget* dialog)
 {

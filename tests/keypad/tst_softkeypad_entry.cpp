@@ -7,13 +7,10 @@
 #include <QSignalSpy>
 #include <QTextCursor>
 
+using testing::type;
+
 namespace
 {
-
-CKeyPadFactory::KeyPadType type(int number)
-{
-    return static_cast<CKeyPadFactory::KeyPadType>(number);
-}
 
 CKeyPadEdit* editOf(const QWidget* dialog)
 {

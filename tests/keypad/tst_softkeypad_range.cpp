@@ -9,16 +9,13 @@
 
 #include <limits>
 
+using testing::type;
+
 namespace
 {
 
 const int lowest = std::numeric_limits<int>::min();
 const int highest = std::numeric_limits<int>::max();
-
-CKeyPadFactory::KeyPadType type(int number)
-{
-    return static_cast<CKeyPadFactory::KeyPadType>(number);
-}
 
 CKeyPadEdit* editOf(const QWidget* dialog)
 {

@@ -55,6 +55,12 @@ QString statesDifference(CKeyButton* key, int background);
 bool sameImage(const QPixmap& a, const QPixmap& b);
 QPixmap keyPicture(int status);
 
+/// A type by its number, which may be one that there is not.
+inline CKeyPadFactory::KeyPadType type(int number)
+{
+    return static_cast<CKeyPadFactory::KeyPadType>(number);
+}
+
 QList<CKeyButton*> keysOf(const QWidget* widget);
 CKeyButton* keyOf(const QWidget* widget, int code);
 QStringList textsOf(const QList<CKeyButton*>& keys);

@@ -9,14 +9,10 @@
 using testing::keyOf;
 using testing::KeyPadUser;
 using testing::touch;
+using testing::type;
 
 namespace
 {
-
-CKeyPadFactory::KeyPadType type(int number)
-{
-    return static_cast<CKeyPadFactory::KeyPadType>(number);
-}
 
 /// What the keypad that a touch of \a edit opens is like; empty when none opens.
 QByteArray keyPadOf(CLineEdit* edit)
