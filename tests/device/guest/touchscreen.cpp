@@ -204,12 +204,25 @@ int64_t timeToChange(TouchScreen* touch, const Screen& screen, const Rect& rect,
     return -1;
 }
 
+/// The digest of \a rect as soon as it stands still: a picture that is half painted is none.
+uint64_t settledDigest(const Screen& screen, const Rect& rect)
+{
+    uint64_t next = screen.digest(rect);
+    uint64_t last;
+    do {
+        last = next;
+        usleep(1000);
+        next = screen.digest(rect);
+    } while (next != last);
+    return next;
+}
+
 int changes(const Screen& screen, const Rect& rect, int milliseconds)
 {
     const int64_t end = microseconds() + milliseconds * 1000LL;
     int count = 0;
-    for (uint64_t last = screen.digest(rect); microseconds() < end; usleep(1000)) {
-        const uint64_t next = screen.digest(rect);
+    for (uint64_t last = settledDigest(screen, rect); microseconds() < end;) {
+        const uint64_t next = settledDigest(screen, rect);
         count += next != last;
         last = next;
     }
