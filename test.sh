@@ -10,7 +10,8 @@
 #   ./test.sh --bench          the benchmarks
 #   ./test.sh --packages       builds the Debian packages, and uses them in a fresh system
 #   ./test.sh --arch arm64     builds for another processor, and runs the tests on an emulated one (Qt 5)
-#   ./test.sh --device         the gallery on the frame buffer of a virtual machine, touched and plugged
+#   ./test.sh --device         the gallery on the frame buffer of a virtual machine, touched and plugged;
+#                              with --arch arm64, one with another processor
 #   ./test.sh --fuzz SECONDS   each fuzzer for so long; 0 replays their seeds only (Qt 5)
 #
 # What follows -- goes to ctest, with --device to tests/device/run.py.
@@ -42,7 +43,7 @@ while [ $# -gt 0 ]; do
         --device) device=1; shift ;;
         --fuzz) fuzz=${2:?--fuzz needs a number of seconds}; shift 2 ;;
         --) shift; break ;;
-        *) sed -n '2,15s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
+        *) sed -n '2,16s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
     esac
 done
 if [ "$threads" = ON ] && [ "$qt" != 5 ]; then
@@ -69,9 +70,25 @@ if [ -n "$packages" ]; then
     exec tests/debian/checkdebian.sh "$PWD"
 fi
 
+# need_machine COMMAND...: does what the virtual machine needs. Where that cannot be, says so, and ends.
+need_machine() {
+    local trouble
+    if ! trouble=$("$@" 2>&1); then
+        echo "The device is not tested: no virtual machine here ($(echo "$trouble" | tail -n 1))"
+        exit 0
+    fi
+}
+
 if [ -n "$arch" ]; then
     cwidget_install debootstrap util-linux
-    exec tests/cross/checkcross.sh "$PWD" "$@"
+    if [ -z "$device" ]; then exec tests/cross/checkcross.sh "$PWD" "$@"; fi
+    need_machine cwidget_install qemu-system-arm e2fsprogs kmod python3 udev
+    need_machine qemu-system-aarch64 --version
+    tests/cross/checkcross.sh "$PWD" --only device
+    need_machine tests/device/fetchboard.sh build/arm64/root build/arm64/board
+    exec /usr/bin/python3 tests/device/run.py --arch arm64 --build build/arm64/tests \
+        --kernel build/arm64/board/kernel --system build/arm64/board/root \
+        --output build/device/arm64 "$@"
 fi
 
 test_packages="clang-format-14 clang-tidy-14 clang-14 shellcheck python3 xvfb openbox xdotool x11-utils usbutils util-linux"
@@ -87,12 +104,9 @@ if [ -n "$fuzz" ]; then cwidget_install clang-14 libclang-rt-14-dev llvm-14; fi
 
 if [ -n "$device" ]; then
     # shellcheck disable=SC2086
-    if ! trouble=$(cwidget_install $device_packages 2>&1 &&
-        tests/device/fetchkernel.sh build/device/kernel 2>&1 &&
-        qemu-system-x86_64 --version 2>&1); then
-        echo "The device is not tested: no virtual machine here ($(echo "$trouble" | tail -n 1))"
-        exit 0
-    fi
+    need_machine cwidget_install $device_packages
+    need_machine tests/device/fetchkernel.sh build/device/kernel
+    need_machine qemu-system-x86_64 --version
 fi
 
 build=build/test-qt$qt

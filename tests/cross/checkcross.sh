@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# checkcross.sh SOURCE [CTEST-ARGUMENT...]
+# checkcross.sh SOURCE [--only TARGET | CTEST-ARGUMENT...]
 #
 # Builds everything for arm64 with the cross compiler, and runs the tests on an emulated processor, in
-# a system that is kept in SOURCE/build/arm64. Where no such system can be made, the reason is printed.
+# a system that is kept in SOURCE/build/arm64; or builds one target, and runs nothing. Where no such
+# system can be made, the reason is printed.
 set -euo pipefail
 source=$1
 shift

@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
-# fetchkernel.sh FOLDER: fetches Debian's current kernel package for this architecture, and unpacks
-# it into FOLDER without installing it: FOLDER/vmlinuz and FOLDER/lib/modules. Quick when it is
-# there already.
+# fetchkernel.sh FOLDER: fetches Debian's current kernel package for the architecture of apt, and
+# unpacks it into FOLDER without installing it: FOLDER/vmlinuz and FOLDER/lib/modules. Quick when it
+# is there already.
 set -euo pipefail
 folder=$(mkdir -p "$1" && cd "$1" && pwd)
 
-package=$(apt-cache depends "linux-image-$(dpkg --print-architecture)" |
+architecture=$(apt-config dump --format '%v%n' APT::Architecture)
+package=$(apt-cache depends "linux-image-$architecture" |
     awk '$1 == "Depends:" { print $2; exit }')
 [ -n "$package" ] || { echo "apt knows no kernel package" >&2; exit 1; }
 version=$(apt-cache policy "$package" | awk '$1 == "Candidate:" { print $2 }')

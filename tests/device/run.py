@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
 """Runs the panel on the bench: a virtual machine with a frame buffer, a touch screen and USB ports.
 
-usage: run.py --build FOLDER --kernel FOLDER --output FOLDER [SCENARIO...]
+usage: run.py --build FOLDER --kernel FOLDER --output FOLDER [--arch NAME --system FOLDER]
+              [SCENARIO...]
 """
 
 import argparse
 import itertools
-import os
 import pathlib
 import shutil
 import signal
@@ -20,10 +20,10 @@ SOURCE = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(SOURCE / "tests/device"))
 
 from bench import initramfs, powercut  # noqa: E402
+from bench.architecture import ARCHITECTURES  # noqa: E402
 from bench.machine import COUNTED_TIME, PLUGGED  # noqa: E402
 from bench.session import Session, Settings  # noqa: E402
 from scenarios.table import SCENARIOS  # noqa: E402
-
 
 
 def disk_options(settings):
@@ -50,6 +50,9 @@ def parse_arguments():
     parser = argparse.ArgumentParser(description="Runs the panel in a virtual machine.")
     for folder in ("--build", "--kernel", "--output"):
         parser.add_argument(folder, type=pathlib.Path, required=True)
+    parser.add_argument("--arch", choices=ARCHITECTURES, default="amd64")
+    parser.add_argument("--system", type=pathlib.Path, default="/",
+                        help="what the guest has, when it is not this machine's own")
     parser.add_argument("scenarios", nargs="*", help="all, without any")
     arguments = parser.parse_args()
     unknown = set(arguments.scenarios) - {name for name, _, _ in SCENARIOS}
@@ -59,17 +62,19 @@ def parse_arguments():
 
 
 def prepare(arguments):
-    """What all machines need, made anew: the initramfs, and the gallery's own pictures."""
+    """What all machines need, made anew: the initramfs, and the gallery's own pictures, unless the
+    first machine is to draw them."""
     output = arguments.output.resolve()
     output.mkdir(parents=True, exist_ok=True)
     for old in itertools.chain(output.glob("*.png"), output.glob("console-*")):
         old.unlink()
     settings = Settings(SOURCE, arguments.build.resolve(), arguments.kernel.resolve(),
-                        output / "initramfs", output)
-    initramfs.build(settings.kernel, settings.initramfs)
-    environment = dict(os.environ, QT_QPA_PLATFORM="offscreen", **settings.look())
-    subprocess.run([settings.gallery, "--shots", str(output / "shots")], env=environment,
-                   stdout=subprocess.DEVNULL, check=True)
+                        arguments.system.resolve(), output, ARCHITECTURES[arguments.arch])
+    initramfs.build(settings.kernel, settings.system, settings.architecture.screen_module,
+                    settings.initramfs)
+    shutil.rmtree(settings.shots, ignore_errors=True)
+    if settings.is_own_system():
+        subprocess.run(settings.drawing(settings.shots), stdout=subprocess.DEVNULL, check=True)
     return settings
 
 
@@ -101,6 +106,8 @@ def run_machine(report, settings, kind, scenarios):
     started = time.monotonic()
     with Session(settings, kind, **MACHINES[kind](settings)) as session:
         session.measurements = report.measurements
+        if not settings.shots.exists():
+            session.draw_shots()
         session.start_gallery()
         print("%-24s ready   %5.1f s" % (kind + " machine", time.monotonic() - started), flush=True)
         for name, _, scenario in scenarios:

@@ -78,6 +78,21 @@ check 0 "$no_device (the machine does not run here)" ./test.sh --device
 if [ -s "$STUB_LOG" ]; then complain "something is built for a device that is not there"; fi
 rm "$kernel"
 
+# For another processor, too.
+check 0 "$no_device (the machine does not run here)" ./test.sh --device --arch arm64
+if grep -q checkcross "$stage/output"; then complain "a board is built for that is not there"; fi
+check fails "checkcross.sh $stage --only device" STUB_MACHINE=1 STUB_FAILS=checkcross.sh \
+    ./test.sh --device --arch arm64
+board=$stage/tests/device/fetchboard.sh
+printf '#!/bin/sh\necho "apt knows no kernel package"; exit 1\n' >"$board"
+chmod +x "$board"
+check 0 "$no_device (apt knows no kernel package)" STUB_MACHINE=1 ./test.sh --device --arch arm64
+printf '#!/bin/sh\necho "$*" >>"$STUB_LOG"\n' >"$board"
+printf 'import sys\nprint("run.py", *sys.argv[1:])\n' >"$stage/tests/device/run.py"
+check 0 "--output build/device/arm64 idle" STUB_MACHINE=1 ./test.sh --device --arch arm64 -- idle
+check_calls "build/arm64/root build/arm64/board"
+rm "$board" "$stage/tests/device/run.py"
+
 check 0 "checkdebian.sh $stage" ./test.sh --packages
 check fails "" STUB_FAILS=package.sh ./test.sh --packages
 if grep -q checkdebian "$stage/output"; then complain "packages that were not built are checked"; fi

@@ -4,14 +4,13 @@ import gzip
 import os
 import pathlib
 import stat
-import subprocess
 
 GUEST = pathlib.Path(__file__).resolve().parent.parent / "guest"
 
-# What the guest loads, beside what these depend on.
+# What every guest loads, beside its screen's module and what these depend on.
 MODULES = """
 virtio_pci virtio_blk virtio_console 9p 9pnet_virtio overlay crc32c_generic ext4
-bochs xhci_pci usbhid hid_generic evdev uinput usb_storage sd_mod
+xhci_pci usbhid hid_generic evdev uinput usb_storage sd_mod
 """.split()
 
 
@@ -38,8 +37,8 @@ class Archive:
         return bytes(self._bytes)
 
 
-def modules_in_order(folder, release):
-    """The files of MODULES and of what they depend on, each behind what it needs."""
+def modules_in_order(folder, release, modules):
+    """The files of the modules and of what they depend on, each behind what it needs."""
     dependencies = {}
     for line in (folder / "lib/modules" / release / "modules.dep").read_text().splitlines():
         file, _, needed = line.partition(":")
@@ -47,7 +46,7 @@ def modules_in_order(folder, release):
     files = {pathlib.Path(file).name.split(".")[0].replace("-", "_"): file for file in dependencies}
     builtin = (folder / "lib/modules" / release / "modules.builtin").read_text().replace("-", "_")
     order = []
-    for module in MODULES:
+    for module in modules:
         if module not in files and "/%s.ko" % module in builtin:
             continue
         file = files[module]
@@ -57,18 +56,18 @@ def modules_in_order(folder, release):
     return order
 
 
-def build(kernel, target):
-    """Writes the initramfs for the kernel that is unpacked in the folder kernel."""
+def build(kernel, system, screen_module, target):
+    """Writes the initramfs for the kernel in one folder, with the busybox of the system in another."""
     release = os.listdir(kernel / "lib/modules")[0]
     archive = Archive()
     for folder in ("bin", "dev", "modules"):
         archive.add(folder, mode=stat.S_IFDIR | 0o755)
     archive.add("dev/console", mode=stat.S_IFCHR | 0o600, device=(5, 1))
-    busybox = pathlib.Path(subprocess.check_output(["which", "busybox"], text=True).strip())
-    archive.add("bin/busybox", busybox.read_bytes(), stat.S_IFREG | 0o755)
+    busybox = (system / "bin/busybox").read_bytes()
+    archive.add("bin/busybox", busybox, stat.S_IFREG | 0o755)
     archive.add("init", (GUEST / "init").read_bytes(), stat.S_IFREG | 0o755)
     archive.add("agent", (GUEST / "agent").read_bytes(), stat.S_IFREG | 0o755)
-    order = modules_in_order(kernel, release)
+    order = modules_in_order(kernel, release, MODULES + [screen_module])
     for file in order:
         content = (kernel / "lib/modules" / release / file).read_bytes()
         archive.add("modules/" + pathlib.Path(file).name, content)

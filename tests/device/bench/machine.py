@@ -26,7 +26,7 @@ PLUGGED = (
 class Machine:
     """Boots when entered as a context, and is switched off when left."""
 
-    def __init__(self, kernel, initramfs, log, size=(800, 600), memory=1024, options=()):
+    def __init__(self, settings, log, size=(800, 600), memory=1024, options=()):
         self._log = log
         self._folder = pathlib.Path(tempfile.mkdtemp(prefix="bench-"))
         self._process = None
@@ -34,16 +34,18 @@ class Machine:
         self.log_folder = log.parent
         self.booted = 0.0
         self.started = 0.0
-        self._command = self._command_line(kernel, initramfs, size, memory) + list(options)
+        self._command = self._command_line(settings, size, memory) + list(options)
 
-    def _command_line(self, kernel, initramfs, size, memory):
+    def _command_line(self, settings, size, memory):
         folder = self._folder
-        arguments = "console=ttyS0 quiet panic=-1 mitigations=off video=Virtual-1:%dx%d-32" % size
+        architecture = settings.architecture
+        arguments = ["console=" + architecture.console, "quiet", "panic=-1", "mitigations=off",
+                     "video=Virtual-1:%dx%d-32" % size, *settings.for_init()]
         return [
-            "qemu-system-x86_64", "-nodefaults", "-no-user-config", "-display", "none", "-no-reboot",
-            "-machine", "pc,i8042=off,accel=tcg", "-cpu", "max", "-smp", "2", "-m", str(memory),
-            "-kernel", str(kernel / "vmlinuz"), "-initrd", str(initramfs), "-append", arguments,
-            "-vga", "std", "-device", "qemu-xhci,id=usb",
+            *architecture.machine, "-nodefaults", "-no-user-config", "-display", "none",
+            "-no-reboot", "-smp", "2", "-m", str(memory), "-kernel", str(settings.kernel / "vmlinuz"),
+            "-initrd", str(settings.initramfs), "-append", " ".join(arguments),
+            *architecture.screen, "-device", "qemu-xhci,id=usb",
             "-fsdev", "local,id=host,path=/,security_model=none,readonly=on,multidevs=remap",
             "-device", "virtio-9p-pci,fsdev=host,mount_tag=host",
             "-serial", "file:%s" % self._log,

@@ -1,7 +1,10 @@
 """One machine that is switched on, and the panel on it."""
 
+import base64
 import functools
+import pathlib
 import re
+import shlex
 
 from bench.machine import Machine
 from bench.panel import Panel
@@ -10,18 +13,33 @@ from bench.touch import Touch
 
 
 class Settings:
-    """Where everything is on the host; its folders are the guest's, too."""
+    """Where everything is on the host; the folders of source and build are the guest's, too.
 
-    def __init__(self, source, build, kernel, initramfs, output):
+    What else the guest has is a system, which is the host's own where that has the guest's processor.
+    """
+
+    def __init__(self, source, build, kernel, system, output, architecture):
         self.source = source
         self.build = build
         self.kernel = kernel
-        self.initramfs = initramfs
+        self.system = system
         self.output = output
+        self.architecture = architecture
+        self.initramfs = output / "initramfs"
+        self.shots = output / "shots"
         self.programs = build / "tests/device"
         galleries = (build / "examples/gallery").glob("quorlin-gallery*")  # with Qt 6, -qt6
         self.gallery = str(next(path for path in galleries if path.is_file()))
         self.style = source / "style/widget-style.xml"
+
+    def is_own_system(self):
+        return self.system == pathlib.Path("/")
+
+    def for_init(self):
+        """What the guest's first process is told by the kernel's command line."""
+        if self.is_own_system():
+            return []
+        return ["bench_system=%s" % self.system, "bench_source=%s" % self.source]
 
     def look(self):
         """What makes a program look the same on every platform of Qt."""
@@ -43,10 +61,16 @@ class Settings:
             "TZ": "UTC",
         }
 
+    def drawing(self, folder):
+        """The command that has the gallery draw its own pictures."""
+        variables = {"QT_QPA_PLATFORM": "offscreen", **self.look()}
+        settings = ["%s=%s" % variable for variable in variables.items()]
+        return ["env", *settings, self.gallery, "--shots", str(folder)]
+
     @functools.lru_cache(maxsize=None)
     def shot(self, name):
         """The picture that the gallery itself draws."""
-        return read_png(self.output / "shots" / (name + ".png"))
+        return read_png(self.shots / (name + ".png"))
 
 
 class Session:
@@ -55,7 +79,7 @@ class Session:
         self.output = settings.output
         self.measurements = []
         log = settings.output / ("console-%s.txt" % name)
-        self.machine = Machine(settings.kernel, settings.initramfs, log, **machine)
+        self.machine = Machine(settings, log, **machine)
         self.panel = self.touch = self.guest = None
 
     def __enter__(self):
@@ -76,6 +100,14 @@ class Session:
         self.machine.__exit__()
 
     # ---- the gallery
+
+    def draw_shots(self):
+        """Has the guest draw the gallery's own pictures: its processor's, to the last pixel."""
+        self.guest.run(shlex.join(self.settings.drawing("shots")))
+        self.settings.shots.mkdir()
+        for name in self.guest.run("ls shots").split():
+            picture = base64.b64decode(self.guest.run("base64 shots/" + name))
+            (self.settings.shots / name).write_bytes(picture)
 
     def start_gallery(self, *arguments):
         self.panel.start(self.settings.gallery, "--log", *arguments)
