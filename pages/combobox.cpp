@@ -10,6 +10,7 @@
 #include "widgets/sheetfont_p.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QPointer>
 #include <QSet>
 
@@ -42,13 +43,14 @@ CComboBox::CComboBox(QWidget* parent)
       m_autoStyleEnabled(true),
       m_pageList(new CPageListWidget(this)),
       m_borderVisible(true),
-      m_row(new ComboBoxRow(this))
+      m_row(nullptr)
 {
     m_pageList->hide();
     setFixedHeight(metrics::controlHeight);
     // The font comes first, as a sheet would have to go away for it.
     setWidgetStyle(CWidgetStyle::getWidgetStyle(QLatin1String("CComboBox"), nullptr));
     setStyleSheet(QLatin1String(boxStyleSheet));
+    m_row = new ComboBoxRow(this);
     connect(this, qtcompat::comboTextActivatedSignal(), this, SLOT(itemActivated(QString)));
     connect(m_pageList, SIGNAL(currentItemChanged(QString)), this,
             SLOT(changeCurrentItem(QString)));
@@ -407,6 +409,16 @@ void CComboBox::itemActivated(const QString& text)
     Q_EMIT currentItemActivated(index);
     if (self)
         Q_EMIT activated(index);
+}
+
+/// Until the box is complete, Qt's box is not told of its font and sheet: it has nothing yet that
+/// depends on them, but would make its own popup for them, which is never shown.
+void CComboBox::changeEvent(QEvent* event)
+{
+    if (m_row)
+        QComboBox::changeEvent(event);
+    else
+        QWidget::changeEvent(event); // NOLINT(bugprone-parent-virtual-call): not the box's
 }
 
 /// Paints Qt's combo box and, unless it is switched off, a frame of one pixel.

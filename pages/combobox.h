@@ -73,6 +73,7 @@ Q_SIGNALS:
     void currentItemActivated(int index);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -6,6 +6,7 @@
 
 #include <CHotplugWatcher>
 #include <QApplication>
+#include <QComboBox>
 #include <QDeviceChangeEvent>
 #include <QDeviceWatcher>
 #include <QDialog>
@@ -215,6 +216,7 @@ void Monkey::settle()
         return;
     m_panel->showScreen(Panel::screenNames().first());
     emptyFields();
+    completeBoxes();
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QPixmapCache::clear();
     m_settling = false;
@@ -249,6 +251,14 @@ void Monkey::emptyFields()
     const QList<QLineEdit*> fields = m_panel->findChildren<QLineEdit*>();
     for (int i = 0; i < fields.size(); ++i)
         fields.at(i)->setText(QString());
+}
+
+/// Qt makes a popup of its own for each box, once and whenever it needs it first.
+void Monkey::completeBoxes()
+{
+    const QList<QComboBox*> boxes = m_panel->findChildren<QComboBox*>();
+    for (int i = 0; i < boxes.size(); ++i)
+        boxes.at(i)->view();
 }
 
 Monkey::Usage Monkey::usage() const

@@ -49,6 +49,7 @@ private:
     void settle();
     bool closeWhatIsOpen();
     void emptyFields();
+    void completeBoxes();
     Usage usage() const;
     void compare(const Usage& end);
     void checkWarnings(const char* action);

@@ -6,6 +6,7 @@
 #include "support/stylefile.h"
 #include "support/testing.h"
 
+#include <QAbstractItemView>
 #include <QPainter>
 
 namespace
@@ -59,6 +60,7 @@ private Q_SLOTS:
     void setFontReachesBoxAndList();
     void setFontKeepsTheStyleSheet();
     void setFontMasksTheStyleSheetsFont();
+    void qtsPopupIsMadeOnDemand();
     void setWidgetStyle();
     void autoStyle();
     void fontComesFromTheStyleFile();
@@ -248,6 +250,18 @@ void tst_combobox::setFontMasksTheStyleSheetsFont()
     box.setFont(testing::testFont(19));
     QCOMPARE(box.font().pixelSize(), 19);
     QCOMPARE(listOf(box)->font().pixelSize(), 19);
+}
+
+/// The popup that Qt has beside the list is never shown, but who asks for it gets it.
+void tst_combobox::qtsPopupIsMadeOnDemand()
+{
+    CComboBox box;
+    box.addItems(numberedTexts(3));
+    box.showPopup();
+    box.hidePopup();
+    QVERIFY(!box.findChild<QAbstractItemView*>());
+    QCOMPARE(box.view()->model()->rowCount(), 3);
+    QCOMPARE(box.findChildren<QAbstractItemView*>().size(), 1);
 }
 
 void tst_combobox::setWidgetStyle()

@@ -61,9 +61,10 @@ const Cost selection[] = {
 };
 
 /// The sheet is applied once, after the font, to the box, to its list and to what that consists of.
+/// Qt's own popup is not made.
 const Cost boxConstruction[] = {
-    {"applied sheets", QEvent::StyleChange,  1,           16},
-    {"polishes",       QEvent::Polish,       0,           7},
+    {"applied sheets", QEvent::StyleChange,  1,           8},
+    {"polishes",       QEvent::Polish,       0,           0},
 };
 
 // clang-format on

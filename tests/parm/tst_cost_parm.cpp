@@ -24,8 +24,8 @@ const Cost lineEdit[] = {
 
 /// That of the box also goes to the list and to what that consists of, and to each of its rows.
 const Cost comboBox[] = {
-    {"applied sheets", QEvent::StyleChange, 1, 19},
-    {"polishes",       QEvent::Polish,      0, 11},
+    {"applied sheets", QEvent::StyleChange, 1, 11},
+    {"polishes",       QEvent::Polish,      0, 5},
 };
 
 /// These have no sheet.
