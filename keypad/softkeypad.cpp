@@ -7,6 +7,7 @@
 
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QTextBlockFormat>
 #include <QTextCursor>
 #include <QTextStream>
 #include <QVBoxLayout>
@@ -31,6 +32,17 @@ QString numberText(int value, int base)
     stream << value;
     stream.flush();
     return text;
+}
+
+/// Aligns the cursor's paragraph to the right: as setAlignment() does it, but that also has the
+/// whole document laid out once more.
+void alignRight(QTextEdit* edit)
+{
+    QTextBlockFormat format;
+    format.setAlignment(Qt::AlignRight);
+    QTextCursor cursor = edit->textCursor();
+    cursor.mergeBlockFormat(format);
+    edit->setTextCursor(cursor);
 }
 
 } // namespace
@@ -149,7 +161,7 @@ QString CSoftKeyPad::getInput() const
 void CSoftKeyPad::clearInput()
 {
     m_edit->clear();
-    m_edit->setAlignment(Qt::AlignRight);
+    alignRight(m_edit);
 }
 
 /// Whether the entry is a number of the range, or there is no range, or the type has none. If not,
@@ -167,7 +179,7 @@ bool CSoftKeyPad::validate() const
         return true;
     const int bound = !converted || value < m_minimum ? m_minimum : m_maximum;
     m_edit->setPlainText(numberText(bound, base));
-    m_edit->setAlignment(Qt::AlignRight);
+    alignRight(m_edit);
     m_edit->moveCursor(QTextCursor::EndOfLine);
     return false;
 }
@@ -249,7 +261,7 @@ void CSoftKeyPad::insertKey(const QString& text, int keyCode)
     if (text.isEmpty() || !keypadtype::row(m_type).takesKey(text, keyCode))
         return;
     m_edit->textCursor().insertText(text);
-    m_edit->setAlignment(Qt::AlignRight);
+    alignRight(m_edit);
 }
 
 /// Takes a leading minus sign away, or puts one there.
@@ -262,5 +274,5 @@ void CSoftKeyPad::toggleSign()
     else
         m_edit->setPlainText(input.startsWith(minus) ? input.mid(1) : minus + input);
     m_edit->moveCursor(QTextCursor::EndOfLine);
-    m_edit->setAlignment(Qt::AlignRight);
+    alignRight(m_edit);
 }

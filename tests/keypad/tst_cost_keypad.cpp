@@ -1,9 +1,13 @@
 #include "keypad/genkeypad.h"
+#include "keypad/keypadedit.h"
 #include "support/costs.h"
 #include "support/filereads.h"
 #include "support/keypads.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QPixmapCache>
+#include <QSignalSpy>
+#include <QTextDocument>
 
 // What a keypad may cost, counted in events, files and pictures and not in time.
 
@@ -111,11 +115,16 @@ void tst_cost_keypad::typedLetterInTheDialog()
     CSoftKeyPad pad(CKeyPadFactory::SKP_GENERAL);
     pad.show();
     QVERIFY(testcompat::waitForWindow(&pad));
+    QTextDocument* document = pad.findChild<CKeyPadEdit*>()->document();
+    const QSignalSpy layouts(document->documentLayout(), SIGNAL(update(QRectF)));
     for (int i = 0; i < 3; ++i) {
         CKeyButton* key = keyOf(&pad, Qt::Key_A + i % 2);
         CWIDGET_VERIFY_COSTS(typedLetter, [&] { testing::touch(key); });
     }
     QCOMPARE(pad.getInput().size(), 3);
+    const int mostLayouts = 3 * 2; // for the letter, and for where it is aligned
+    QVERIFY2(layouts.count() > 0 && layouts.count() <= mostLayouts,
+             qPrintable(QString::number(layouts.count())));
 }
 
 QTEST_MAIN(tst_cost_keypad)
