@@ -2,6 +2,8 @@
 
 #include "style/qtcompat.h"
 
+#include <QCoreApplication>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPen>
 #include <QPointer>
@@ -88,7 +90,10 @@ void CKeyButton::mouseReleaseEvent(QMouseEvent* event)
 /// no letter of a word like "hello" gets lost.
 void CKeyButton::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    qtcompat::sendAsPress(event, this);
+    const QPoint pos = qtcompat::eventPos(event);
+    QMouseEvent press(QEvent::MouseButtonPress, pos, mapToGlobal(pos), event->button(),
+                      event->buttons(), event->modifiers());
+    QCoreApplication::sendEvent(this, &press);
 }
 
 /// Paints the button, and on the backspace key an arrow over it.

@@ -6,6 +6,7 @@
 #include "widgets/painting_p.h"
 
 #include <QHBoxLayout>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QTextBlockFormat>
 #include <QTextCursor>
@@ -234,7 +235,7 @@ void CSoftKeyPad::paintEvent(QPaintEvent* event)
 {
     QDialog::paintEvent(event);
     QPainter painter(this);
-    painting::drawFill(&painter, rect(), Qt::black);
+    painting::drawFill(&painter, rect(), Qt::black, event->region());
 }
 
 /// Adds the grid of the current type below the field.

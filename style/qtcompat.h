@@ -7,16 +7,15 @@
 #include <QByteArray>
 #include <QColor>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QFontMetrics>
 #include <QMouseEvent>
-#include <QPoint>
 #include <QProcess>
 #include <QRect>
+#include <QRegion>
 #include <QString>
 #include <QStringList>
-#include <QWidget>
+#include <QVector>
 
 #if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
 #include <QGuiApplication>
@@ -107,13 +106,14 @@ inline QPoint eventPos(const QMouseEvent* event)
 #endif
 }
 
-/// Sends \a receiver a copy of \a event, which is one of its own, as a press.
-inline void sendAsPress(const QMouseEvent* event, QWidget* receiver)
+/// The rectangles that \a region consists of.
+inline QVector<QRect> partsOf(const QRegion& region)
 {
-    const QPoint pos = eventPos(event);
-    QMouseEvent press(QEvent::MouseButtonPress, pos, receiver->mapToGlobal(pos), event->button(),
-                      event->buttons(), event->modifiers());
-    QCoreApplication::sendEvent(receiver, &press);
+#if QT_VERSION >= QT_VERSION_CHECK(5, 14, 0)
+    return QVector<QRect>(region.begin(), region.end());
+#else
+    return region.rects();
+#endif
 }
 
 /// Whether the regular expression \a pattern is found in \a text; an invalid one never is, and

@@ -179,6 +179,16 @@ inline QImage grabScreen()
 #endif
 }
 
+/// What is on the screen of \a window.
+inline QImage grabWindow(QWidget* window)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(5, 0, 0)
+    return QGuiApplication::primaryScreen()->grabWindow(window->winId()).toImage();
+#else
+    return QPixmap::grabWindow(window->winId()).toImage();
+#endif
+}
+
 } // namespace testcompat
 
 #if QT_VERSION < QT_VERSION_CHECK(5, 0, 0)

@@ -2,6 +2,7 @@
 
 #include "widgets/painting_p.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 
 /// A dialog that paints nothing of its own: no colours, no border.
@@ -95,6 +96,6 @@ void CDialog::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
     QPainter painter(this);
-    painting::drawFill(&painter, rect(), m_backgroundColor);
+    painting::drawFill(&painter, rect(), m_backgroundColor, event->region());
     painting::drawBorder(&painter, size(), m_borderWidth, m_borderColor, m_backgroundColor);
 }

@@ -1,5 +1,6 @@
 #include "widgets/painting_p.h"
 
+#include "style/qtcompat.h"
 #include "widgets/metrics_p.h"
 
 #include <QPainter>
@@ -15,6 +16,17 @@ namespace
 
 const int opaqueAlpha = 255;
 const int widestPen = 32767; // that Qt draws with, and far more than any widget has
+
+/// Fills the \a parts of a widget, one after the other: where other widgets leave many of them, Qt
+/// would fill them all together line by line.
+void fillParts(QPainter* painter, const QVector<QRect>& parts, const QColor& color)
+{
+    for (int i = 0; i < parts.size(); ++i) {
+        painter->setClipRect(parts.at(i));
+        painter->fillRect(parts.at(i), color);
+    }
+    painter->setClipping(false);
+}
 
 } // namespace
 
@@ -48,14 +60,18 @@ QRect borderRect(const QSize& size, int borderWidth)
                  size.height() - borderWidth);
 }
 
-/// Fills \a rect, which is all of a widget, with \a color; an invalid colour draws nothing.
+/// Fills \a rect, which is all of a widget, with \a color; an invalid colour draws nothing. Of the
+/// widget, \a region is to be painted.
 /// Deliberate: the outline of a translucent colour is blended twice, by the brush and by the pen.
-void drawFill(QPainter* painter, const QRect& rect, const QColor& color)
+void drawFill(QPainter* painter, const QRect& rect, const QColor& color, const QRegion& region)
 {
     if (!color.isValid())
         return;
     if (isOpaque(color) && isAligned(painter)) {
-        painter->fillRect(rect.adjusted(0, 0, 1, 1), color);
+        if (region.rectCount() > 1)
+            fillParts(painter, qtcompat::partsOf(region), color);
+        else
+            painter->fillRect(rect.adjusted(0, 0, 1, 1), color);
         return;
     }
     painter->setPen(color);

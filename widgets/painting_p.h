@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QRect>
+#include <QRegion>
 
 class QPainter;
 class QPixmap;
@@ -17,7 +18,8 @@ bool isOpaque(const QColor& color);
 bool isCovered(const QPainter* painter, const QRect& rect, const QPixmap& pixmap);
 QRect borderRect(const QSize& size, int borderWidth);
 
-void drawFill(QPainter* painter, const QRect& rect, const QColor& color);
+void drawFill(QPainter* painter, const QRect& rect, const QColor& color,
+              const QRegion& region = QRegion());
 void drawBorder(QPainter* painter, const QSize& size, int borderWidth, const QColor& borderColor,
                 const QColor& backgroundColor);
 void drawThinFrame(QWidget* widget);

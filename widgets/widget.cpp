@@ -6,6 +6,7 @@
 #include "widgets/widgetstack.h"
 
 #include <QEvent>
+#include <QPaintEvent>
 #include <QPainter>
 
 namespace
@@ -259,14 +260,14 @@ void CWidget::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
     QPainter painter(this);
-    drawBackgroundColor(&painter);
+    drawBackgroundColor(&painter, event->region());
     drawBackgroundPixmap(&painter);
     drawBorder(&painter);
 }
 
-void CWidget::drawBackgroundColor(QPainter* painter)
+void CWidget::drawBackgroundColor(QPainter* painter, const QRegion& region)
 {
-    painting::drawFill(painter, rect(), m_backgroundColor);
+    painting::drawFill(painter, rect(), m_backgroundColor, region);
 }
 
 void CWidget::drawBackgroundPixmap(QPainter* painter)

@@ -65,7 +65,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void drawBackgroundColor(QPainter* painter);
+    void drawBackgroundColor(QPainter* painter, const QRegion& region);
     void drawBackgroundPixmap(QPainter* painter);
     void drawBorder(QPainter* painter);
 

@@ -20,6 +20,38 @@ QPixmap checkered(int width, int height)
     return pixmap;
 }
 
+/// Counts the parts in which it is painted.
+class CountedGround : public CWidget
+{
+public:
+    CountedGround() : m_parts(0)
+    {
+    }
+
+    int parts() const
+    {
+        return m_parts;
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        m_parts = event->region().rectCount();
+        CWidget::paintEvent(event);
+    }
+
+private:
+    int m_parts;
+};
+
+void addChild(QWidget* parent, const QRect& rect)
+{
+    QWidget* const child = new QWidget(parent);
+    child->setGeometry(rect);
+    child->setAutoFillBackground(true);
+    child->setPalette(QPalette(Qt::blue));
+}
+
 void paintBorder(QImage* image, int width, const QColor& color)
 {
     QPen pen(color);
@@ -44,6 +76,7 @@ private Q_SLOTS:
     void transparentEnabled();
     void paintsNothingByItself();
     void paintsFillWithAlpha();
+    void paintsFillBetweenChildren();
     void paintsPixmapUnscaledOverFill();
     void paintsPixmapLargerThanTheWidget();
     void paintsBorders();
@@ -147,6 +180,30 @@ void tst_widget_painting::paintsFillWithAlpha()
     painter.drawRect(0, 0, 30, 20);
     painter.end();
     CWIDGET_COMPARE_IMAGES(render(&widget), expected);
+}
+
+/// Children that hide the ground leave many parts of it, and none is left out. The picture and the
+/// border are not cut.
+void tst_widget_painting::paintsFillBetweenChildren()
+{
+    const QRect places[] = {QRect(4, 4, 8, 5), QRect(16, 4, 10, 5), QRect(4, 12, 30, 3)};
+    CountedGround ground;
+    ground.setSize(40, 20);
+    ground.setBackgroundColor(Qt::red);
+    ground.setBackground(checkered(6, 10));
+    ground.setBorderColor(Qt::green);
+    ground.setBorderWidth(2);
+    QImage expected = canvas(&ground, Qt::red);
+    QPainter(&expected).drawPixmap(0, 0, checkered(6, 10));
+    paintBorder(&expected, 2, Qt::green);
+    for (size_t i = 0; i < sizeof places / sizeof places[0]; ++i) {
+        addChild(&ground, places[i]);
+        QPainter(&expected).fillRect(places[i], Qt::blue);
+    }
+    ground.show();
+    QVERIFY(testcompat::waitForWindow(&ground));
+    QTRY_VERIFY(ground.parts() > 1);
+    CWIDGET_COMPARE_IMAGES(testcompat::grabWindow(&ground), expected);
 }
 
 void tst_widget_painting::paintsPixmapUnscaledOverFill()
