@@ -234,6 +234,7 @@ void CSoftKeyPad::changeText()
 void CSoftKeyPad::paintEvent(QPaintEvent* event)
 {
     QDialog::paintEvent(event);
+    painting::markGround(this, Qt::black);
     QPainter painter(this);
     painting::drawFill(&painter, rect(), Qt::black, event->region());
 }

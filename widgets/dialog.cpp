@@ -88,6 +88,7 @@ QColor CDialog::getBackgroundColor() const
 void CDialog::setBackgroundColor(const QColor& color)
 {
     m_backgroundColor = color;
+    painting::changeGround(this, color);
     update();
 }
 
@@ -95,6 +96,7 @@ void CDialog::setBackgroundColor(const QColor& color)
 void CDialog::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
+    painting::markGround(this, m_backgroundColor);
     QPainter painter(this);
     painting::drawFill(&painter, rect(), m_backgroundColor, event->region());
     painting::drawBorder(&painter, size(), m_borderWidth, m_borderColor, m_backgroundColor);

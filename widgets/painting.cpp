@@ -17,6 +17,13 @@ namespace
 const int opaqueAlpha = 255;
 const int widestPen = 32767; // that Qt draws with, and far more than any widget has
 
+/// Whether Qt fills \a widget before it is painted, so that nothing under it is seen.
+bool isFilledByQt(const QWidget* widget)
+{
+    return widget->autoFillBackground() &&
+           widget->palette().brush(widget->backgroundRole()).isOpaque();
+}
+
 /// Fills the \a parts of a widget, one after the other: where other widgets leave many of them, Qt
 /// would fill them all together line by line.
 void fillParts(QPainter* painter, const QVector<QRect>& parts, const QColor& color)
@@ -43,6 +50,23 @@ bool isAligned(const QPainter* painter)
 bool isOpaque(const QColor& color)
 {
     return color.isValid() && color.alpha() == opaqueAlpha;
+}
+
+/// Tells Qt whether it may leave out the fill that \a widget gets before it is painted, as its
+/// whole ground has \a color then. To be told when it is painted, since a class that paints
+/// otherwise does not come here, and since styles take the mark from buttons.
+void markGround(QWidget* widget, const QColor& color)
+{
+    if (widget->isWindow() || isFilledByQt(widget))
+        widget->setAttribute(Qt::WA_OpaquePaintEvent, isOpaque(color));
+}
+
+/// The ground of \a widget gets another \a color: already the next paint needs what is under it
+/// when that shines through.
+void changeGround(QWidget* widget, const QColor& color)
+{
+    if (!isOpaque(color))
+        widget->setAttribute(Qt::WA_OpaquePaintEvent, false);
 }
 
 /// Whether \a pixmap, drawn into \a rect, hides all that is there, pixel for pixel.

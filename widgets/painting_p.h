@@ -15,6 +15,8 @@ namespace painting
 
 bool isAligned(const QPainter* painter);
 bool isOpaque(const QColor& color);
+void markGround(QWidget* widget, const QColor& color);
+void changeGround(QWidget* widget, const QColor& color);
 bool isCovered(const QPainter* painter, const QRect& rect, const QPixmap& pixmap);
 QRect borderRect(const QSize& size, int borderWidth);
 

@@ -158,6 +158,7 @@ QColor CPushButton::getBackgroundColor() const
 void CPushButton::setBackgroundColor(const QColor& color)
 {
     m_backgroundColor = color;
+    painting::changeGround(this, color);
     update();
 }
 
@@ -326,6 +327,7 @@ void CPushButton::paintEvent(QPaintEvent* event)
 {
     if (!painting::isOpaque(m_backgroundColor)) // else none of it would be visible
         QPushButton::paintEvent(event);
+    painting::markGround(this, m_backgroundColor);
     const QPixmap icon = iconPixmap();
     QPainter painter(this);
     drawBackgroundColor(&painter);

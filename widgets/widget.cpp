@@ -148,6 +148,7 @@ QColor CWidget::getBackgroundColor() const
 void CWidget::setBackgroundColor(const QColor& color)
 {
     m_backgroundColor = color;
+    painting::changeGround(this, color);
     update();
 }
 
@@ -197,6 +198,7 @@ void CWidget::setTransparency(int alpha)
     if (static_cast<unsigned int>(alpha) > maximumAlpha)
         return;
     m_backgroundColor.setAlpha(alpha);
+    painting::changeGround(this, m_backgroundColor);
     update();
 }
 
@@ -259,6 +261,7 @@ void CWidget::changeEvent(QEvent* event)
 void CWidget::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
+    painting::markGround(this, m_backgroundColor);
     QPainter painter(this);
     drawBackgroundColor(&painter, event->region());
     drawBackgroundPixmap(&painter);

@@ -34,6 +34,17 @@ QIcon signIcon()
     return icon;
 }
 
+/// An application's own button that leaves its edge to Qt.
+class OwnButton : public CPushButton
+{
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.fillRect(rect().adjusted(5, 5, -5, -5), Qt::green);
+    }
+};
+
 void paintText(QPainter* painter, const CPushButton& button, const QRect& rect)
 {
     painter->setRenderHint(QPainter::Antialiasing, false);
@@ -52,6 +63,7 @@ private Q_SLOTS:
     void newButton();
     void backgroundWithAlpha();
     void noBackground();
+    void ownPaintingKeepsTheGround();
     void border();
     void borderUnderPicture();
     void pictureFillsTheButton();
@@ -96,6 +108,19 @@ void tst_pushbutton_painting::noBackground()
     button.setBackgroundColor(QColor());
     button.setAutoFillBackground(false);
     CWIDGET_COMPARE_IMAGES(render(&button), canvas(&button));
+}
+
+/// Qt fills a button under what an application paints on it, however often that is done.
+void tst_pushbutton_painting::ownPaintingKeepsTheGround()
+{
+    OwnButton button;
+    button.setPalette(QPalette(Qt::blue));
+    QImage expected = canvas(&button, button.palette().color(QPalette::Button));
+    QPainter(&expected).fillRect(button.rect().adjusted(5, 5, -5, -5), Qt::green);
+    for (int i = 0; i < 3; ++i) {
+        const testing::InRow inRow(i);
+        CWIDGET_COMPARE_IMAGES(render(&button), expected);
+    }
 }
 
 void tst_pushbutton_painting::border()

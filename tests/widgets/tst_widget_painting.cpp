@@ -44,6 +44,17 @@ private:
     int m_parts;
 };
 
+/// An application's own ground that leaves its edge to Qt.
+class OwnGround : public CWidget
+{
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.fillRect(rect().adjusted(5, 5, -5, -5), Qt::green);
+    }
+};
+
 void addChild(QWidget* parent, const QRect& rect)
 {
     QWidget* const child = new QWidget(parent);
@@ -77,6 +88,7 @@ private Q_SLOTS:
     void paintsNothingByItself();
     void paintsFillWithAlpha();
     void paintsFillBetweenChildren();
+    void ownPaintingKeepsTheGroundOfWindows();
     void paintsPixmapUnscaledOverFill();
     void paintsPixmapLargerThanTheWidget();
     void paintsBorders();
@@ -204,6 +216,23 @@ void tst_widget_painting::paintsFillBetweenChildren()
     QVERIFY(testcompat::waitForWindow(&ground));
     QTRY_VERIFY(ground.parts() > 1);
     CWIDGET_COMPARE_IMAGES(testcompat::grabWindow(&ground), expected);
+}
+
+/// Qt fills a window under what an application paints on it, however often that is done.
+void tst_widget_painting::ownPaintingKeepsTheGroundOfWindows()
+{
+    OwnGround ground;
+    ground.setSize(40, 20);
+    ground.setBackgroundColor(Qt::red);
+    ground.setPalette(QPalette(Qt::black, Qt::blue));
+    QImage expected = canvas(&ground, ground.palette().color(QPalette::Window));
+    QPainter(&expected).fillRect(5, 5, 30, 10, Qt::green);
+    for (int i = 0; i < 3; ++i) {
+        const testing::InRow inRow(i);
+        QImage image = canvas(&ground);
+        ground.render(&image, QPoint(), QRegion(), QWidget::DrawWindowBackground);
+        CWIDGET_COMPARE_IMAGES(image, expected);
+    }
 }
 
 void tst_widget_painting::paintsPixmapUnscaledOverFill()
