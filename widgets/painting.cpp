@@ -35,6 +35,23 @@ void fillParts(QPainter* painter, const QVector<QRect>& parts, const QColor& col
     painter->setClipping(false);
 }
 
+/// Whether a border of \a width pixels leaves something of \a size inside it.
+bool hasInside(const QSize& size, int width)
+{
+    return size.width() / 2 > width && size.height() / 2 > width;
+}
+
+/// Fills the four sides of a border, which Qt would draw line by line.
+void fillSides(QPainter* painter, const QSize& size, int width, const QColor& color)
+{
+    const int right = size.width() - width;
+    const int bottom = size.height() - width;
+    painter->fillRect(0, 0, size.width(), width, color);
+    painter->fillRect(0, bottom, size.width(), width, color);
+    painter->fillRect(0, width, width, bottom - width, color);
+    painter->fillRect(right, width, width, bottom - width, color);
+}
+
 } // namespace
 
 /// Whether the pixels of \a painter are those of its widget: it may be moved by whole pixels, but
@@ -111,7 +128,13 @@ void drawBorder(QPainter* painter, const QSize& size, int borderWidth, const QCo
     if (borderWidth < 1)
         return;
     const int width = qMin(borderWidth, widestPen);
-    QPen pen(borderColor.isValid() ? borderColor : backgroundColor);
+    const QColor color = borderColor.isValid() ? borderColor : backgroundColor;
+    const bool isSmooth = painter->testRenderHint(QPainter::Antialiasing);
+    if (isOpaque(color) && isAligned(painter) && !isSmooth && hasInside(size, width)) {
+        fillSides(painter, size, width, color);
+        return;
+    }
+    QPen pen(color);
     pen.setWidth(width);
     pen.setJoinStyle(Qt::MiterJoin);
     painter->setPen(pen);
@@ -123,11 +146,7 @@ void drawBorder(QPainter* painter, const QSize& size, int borderWidth, const QCo
 void drawThinFrame(QWidget* widget)
 {
     QPainter painter(widget);
-    QPen pen((QColor(metrics::thinFrameColor)));
-    pen.setWidth(1);
-    pen.setJoinStyle(Qt::MiterJoin);
-    painter.setPen(pen);
-    painter.drawRect(0, 0, widget->width() - 1, widget->height() - 1);
+    drawBorder(&painter, widget->size(), 1, metrics::thinFrameColor, QColor());
 }
 
 } // namespace painting
