@@ -63,12 +63,13 @@ void addChild(QWidget* parent, const QRect& rect)
     child->setPalette(QPalette(Qt::blue));
 }
 
-void paintBorder(QImage* image, int width, const QColor& color)
+void paintBorder(QImage* image, int width, const QColor& color, bool isSmooth = false)
 {
     QPen pen(color);
     pen.setWidth(width);
     pen.setJoinStyle(Qt::MiterJoin);
     QPainter painter(image);
+    painter.setRenderHint(QPainter::Antialiasing, isSmooth);
     painter.setPen(pen);
     painter.drawRect(width / 2, width / 2, image->width() - width, image->height() - width);
 }
@@ -92,6 +93,8 @@ private Q_SLOTS:
     void paintsPixmapUnscaledOverFill();
     void paintsPixmapLargerThanTheWidget();
     void paintsBorders();
+    void paintsBordersOfAnySize();
+    void smoothBorder();
     void borderTakesTheBackgroundColor();
     void borderWithoutAnyColorIsDrawn();
     void transparentFillStillHasItsBorder();
@@ -273,6 +276,42 @@ void tst_widget_painting::paintsBorders()
         QCOMPARE(actual.pixel(width, width), QColor(Qt::magenta).rgb());
         QCOMPARE(actual.pixel(99 - width, 39 - width), QColor(Qt::magenta).rgb());
     }
+}
+
+/// Also where a border leaves no inside, or no more than a pixel.
+void tst_widget_painting::paintsBordersOfAnySize()
+{
+    CWidget widget;
+    widget.setBorderColor(Qt::red);
+    for (int edge = 1; edge <= 21; ++edge) {
+        for (int width = 1; width <= 12; ++width) {
+            widget.setSize(edge, 22 - edge);
+            widget.setBorderWidth(width);
+            QImage expected = canvas(&widget);
+            paintBorder(&expected, width, Qt::red);
+            const QString found = testing::difference(render(&widget), expected);
+            QVERIFY2(
+                found.isEmpty(),
+                qPrintable(QString::fromLatin1("%1 of %2: %3").arg(width).arg(edge).arg(found)));
+        }
+    }
+}
+
+/// A painter that smooths what it draws does so with a border, too.
+void tst_widget_painting::smoothBorder()
+{
+    CWidget widget;
+    widget.setSize(30, 20);
+    widget.setBorderColor(Qt::red);
+    widget.setBorderWidth(3);
+    QImage image = canvas(&widget);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    widget.render(&painter, QPoint(), QRegion(), QWidget::DrawChildren);
+    painter.end();
+    QImage expected = canvas(&widget);
+    paintBorder(&expected, 3, Qt::red, true);
+    CWIDGET_COMPARE_IMAGES(image, expected);
 }
 
 void tst_widget_painting::borderTakesTheBackgroundColor()
