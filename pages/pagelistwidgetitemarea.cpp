@@ -16,6 +16,23 @@ namespace
 
 const int rowMargins = 4; // left and right of a row together
 
+/// Whether Qt paints \a row, and no more than its place, when the area is painted there.
+bool isSeeThrough(const QWidget* row)
+{
+    return !row->autoFillBackground() && !row->testAttribute(Qt::WA_OpaquePaintEvent) &&
+           !row->testAttribute(Qt::WA_PaintOnScreen) && !row->internalWinId() &&
+           !row->graphicsEffect() && row->mask().isEmpty() && row->updatesEnabled();
+}
+
+bool areSeeThrough(const QList<QWidget*>& rows)
+{
+    for (int i = 0; i < rows.size(); ++i) {
+        if (!isSeeThrough(rows.at(i)))
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 /// An area without rows, white with a thin black border, in the font of the style file's entry
@@ -196,22 +213,54 @@ void CPageListWidgetItemArea::visitRows(int first, int end, Visitor visit) const
 void CPageListWidgetItemArea::showRows(int first, int end)
 {
     QList<QWidget*> page;
+    QList<QWidget*> appearing;
     pauseLayout();
-    visitRows(first, end, [&page](CPageListWidgetItem* item, bool isOnPage) {
-        if (item->isActive())
-            item->setVisible(isOnPage);
+    visitRows(first, end, [&](CPageListWidgetItem* item, bool isOnPage) {
         if (isOnPage)
             page.append(item);
+        if (item->isActive() && showRow(item, isOnPage))
+            appearing.append(item);
     });
     m_layout->setPage(page);
     resumeLayout();
-    if (hasCurrentPage())
-        visitRows(first, end, [this](CPageListWidgetItem* item, bool) {
-            if (item->isActive())
-                item->setSelect(item->index() == m_currentIndex && item->isVisible());
-        });
     m_firstShown = first;
     m_endShown = end;
+    if (hasCurrentPage())
+        repaintRows(appearing, updatesEnabled() && hasRowsOnly() && areSeeThrough(page));
+}
+
+/// Shows or hides \a item and marks it, and tells whether it appears. A row that does is marked
+/// before: it is painted in any case and need not ask for it.
+bool CPageListWidgetItemArea::showRow(CPageListWidgetItem* item, bool isOnPage)
+{
+    const bool appears = isOnPage && item->isHidden();
+    if (!appears)
+        item->setVisible(isOnPage);
+    if (hasCurrentPage())
+        item->setSelect(item->index() == m_currentIndex && isOnPage && isVisible());
+    if (appears)
+        item->setVisible(true);
+    return appears;
+}
+
+/// Has \a rows painted that appear. Each asks for it by itself, but Qt goes through all rows for
+/// each one that does; so the area asks in their place if that \a isAreaEnough.
+void CPageListWidgetItemArea::repaintRows(const QList<QWidget*>& rows, bool isAreaEnough)
+{
+    for (int i = 0; i < rows.size(); ++i) {
+        if (isAreaEnough) {
+            QCoreApplication::removePostedEvents(rows.at(i), QEvent::UpdateLater);
+            update(rows.at(i)->geometry());
+        } else {
+            rows.at(i)->update();
+        }
+    }
+}
+
+/// Whether the area has no other children than its rows and their layout.
+bool CPageListWidgetItemArea::hasRowsOnly() const
+{
+    return children().size() == m_items.size() + 1;
 }
 
 /// Until resumeLayout(), rows come and go without a layout of all rows for each of them.

@@ -62,6 +62,9 @@ private:
     template <typename Visitor>
     void visitRows(int first, int end, Visitor visit) const;
     void showRows(int first, int end);
+    bool showRow(CPageListWidgetItem* item, bool isOnPage);
+    void repaintRows(const QList<QWidget*>& rows, bool isAreaEnough);
+    bool hasRowsOnly() const;
     void pauseLayout();
     void resumeLayout();
     QSize rowSize() const;

@@ -29,6 +29,7 @@ const Cost firstTurn[] = {
     {"flushes",       QEvent::UpdateRequest, 1,           1},
 };
 
+/// No row asks for its paint: Qt goes through all rows of a list for each one that does.
 const Cost laterTurn[] = {
     {"rows shown",    QEvent::Show,          rowsPerPage, rowsPerPage},
     {"rows hidden",   QEvent::Hide,          rowsPerPage, rowsPerPage},
@@ -37,6 +38,7 @@ const Cost laterTurn[] = {
     {"polishes",      QEvent::Polish,        0,           0},
     {"layout passes", QEvent::LayoutRequest, 0,           1},
     {"paints",        QEvent::Paint,         rowsPerPage, rowsPerPage + 2},
+    {"asking rows",   QEvent::UpdateLater,   0,           0},
     {"flushes",       QEvent::UpdateRequest, 1,           1},
 };
 
