@@ -8,12 +8,19 @@ namespace keptpictures
 namespace
 {
 
-/// The picture that is called \a kind and \a number in the cache, made by \a cut where the cache
-/// does not have it any more.
-template <typename Cut>
-QPixmap kept(const char* kind, int number, Cut cut)
+/// \a kind with the \a number in the place of its last character.
+QString numbered(const char* kind, int number)
 {
-    const QString name = QLatin1String(kind) + QChar(static_cast<ushort>(number));
+    QString name = QLatin1String(kind);
+    name[name.size() - 1] = QChar(static_cast<ushort>(number));
+    return name;
+}
+
+/// The picture that has the \a name in the cache, made by \a cut where the cache does not have it
+/// any more.
+template <typename Cut>
+QPixmap kept(const QString& name, Cut cut)
+{
     QPixmap picture;
     if (!QPixmapCache::find(name, &picture)) {
         picture = cut();
@@ -27,20 +34,22 @@ QPixmap kept(const char* kind, int number, Cut cut)
 /// As CWidgetStyle::getButtonStatus().
 QPixmap button(CWidgetStyle::ButtonStatus status, bool normalSize)
 {
-    return kept(normalSize ? "quorlin-cwidget/button/" : "quorlin-cwidget/big-button/", status,
+    const char* kind = normalSize ? "quorlin-cwidget/button/#" : "quorlin-cwidget/big-button/#";
+    return kept(numbered(kind, status),
                 [=] { return CWidgetStyle::getButtonStatus(status, normalSize); });
 }
 
 /// As CWidgetStyle::getKeyStatus().
 QPixmap key(CWidgetStyle::KeyStatus status)
 {
-    return kept("quorlin-cwidget/key/", status, [=] { return CWidgetStyle::getKeyStatus(status); });
+    return kept(numbered("quorlin-cwidget/key/#", status),
+                [=] { return CWidgetStyle::getKeyStatus(status); });
 }
 
 /// As CWidgetStyle::getPageSwitchStatus().
 QPixmap pageSwitch(CWidgetStyle::PageSwitchStatus status)
 {
-    return kept("quorlin-cwidget/page-switch/", status,
+    return kept(numbered("quorlin-cwidget/page-switch/#", status),
                 [=] { return CWidgetStyle::getPageSwitchStatus(status); });
 }
 
@@ -48,7 +57,7 @@ QPixmap pageSwitch(CWidgetStyle::PageSwitchStatus status)
 /// each time.
 QPixmap image(const char* path)
 {
-    return kept(path, 0, [=] { return QPixmap(QLatin1String(path)); });
+    return kept(QLatin1String(path), [=] { return QPixmap(QLatin1String(path)); });
 }
 
 } // namespace keptpictures
