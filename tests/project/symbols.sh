@@ -51,10 +51,23 @@ if [ -n "$foreign" ]; then
     echo "exported, but no public class: $foreign" >&2
     exit 1
 fi
-if ! diff <(listed) <(exported) | grep '^[<>]' | sed 's/^</gone:/; s/^>/new: /'; then
-    echo "$(listed | wc -l) symbols"
-    exit
+difference() {
+    diff "$@" | sed -n 's/^</gone:/p; s/^>/new: /p' || true
+}
+
+differing=$(difference <(listed) <(exported))
+if [ -n "$differing" ]; then
+    echo "$differing"
+    echo "The exported symbols differ from $list. Where that is meant:" >&2
+    echo "  tests/project/symbols.sh $library --update" >&2
+    exit 1
 fi
-echo "The exported symbols differ from $list. Where that is meant:" >&2
-echo "  tests/project/symbols.sh $library --update" >&2
-exit 1
+echo "$(listed | wc -l) symbols"
+
+# What the comparison says of one that is gone, and of one that is new.
+for less in "$(difference <(listed) <(exported | sed 1d))" "$(difference <(listed | sed 1d) <(exported))"; do
+    if [ "$(wc -l <<<"$less")" != 1 ] || [ -z "$less" ]; then
+        echo "the comparison does not see that a symbol has come or gone" >&2
+        exit 1
+    fi
+done
