@@ -15,7 +15,7 @@ if [ "$(cat "$folder/unpacked" 2>/dev/null)" = "$package $version" ]; then exit;
 rm -rf "$folder"
 mkdir -p "$folder"
 cd "$folder"
-apt-get download -qq "$package=$version" 2>/dev/null
+apt-get download -qq "$package=$version"
 # Of the modules, only the kinds that a panel's computer could use.
 dpkg-deb --fsys-tarfile "$package"_*.deb |
     tar -x --wildcards --exclude='*/drivers/net/*' --exclude='*/drivers/media/*' \

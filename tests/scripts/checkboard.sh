@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # checkboard.sh SOURCE
 #
-# What tests/device/fetchboard.sh makes of the packages that it fetches, and what it does without a
-# network. Functions stand for apt and for what opens a package.
+# What tests/device/fetchboard.sh makes of the packages that it fetches, and what it and fetchkernel.sh
+# do without a network. Functions stand for apt and for what opens a package.
 set -euo pipefail
 source=$1
 
@@ -28,9 +28,16 @@ apt-get() {
     echo "apt-get $* for $(sed -n 's/^APT::Architecture "\(.*\)";/\1/p' "$APT_CONFIG")" >>"$STUB_LOG"
     if [ "$1" = install ]; then touch cache/archives/package.deb; fi
 }
+apt-config() { echo arm64; }
+apt-cache() {
+    case $1 in
+        depends) echo "  Depends: linux-image-6-arm64" ;;
+        policy) echo "  Candidate: 6.1" ;;
+    esac
+}
 dpkg-deb() { tar -c -C "$PACKAGE" .; }
 systemd-hwdb() { echo "systemd-hwdb $*" >>"$STUB_LOG"; }
-export -f apt-get dpkg-deb systemd-hwdb
+export -f apt-get apt-config apt-cache dpkg-deb systemd-hwdb
 
 failures=0
 complain() {
@@ -51,6 +58,11 @@ for command in update install; do
     STUB_FAILS=$command fetch 100
     [ "$(tail -n 1 "$stage/output")" = "E: no network for $command" ] || complain "it gives no reason"
 done
+
+if STUB_FAILS=download "$source/tests/device/fetchkernel.sh" "$stage/kernel" >"$stage/output" 2>&1; then
+    complain "there is a kernel without a network"
+fi
+[ "$(tail -n 1 "$stage/output")" = "E: no network for download" ] || complain "no reason for no kernel"
 
 fetch 0
 root=$stage/board/root
