@@ -17,7 +17,8 @@ const int rowsPerPage = 5;
 
 // clang-format off
 
-/// Rows that were never on screen are polished, sized and placed when they come.
+/// Rows that were never on screen are polished, sized and placed when they come. No row asks for its
+/// paint, then or later: Qt goes through all rows of a list for each one that does.
 const Cost firstTurn[] = {
     {"rows shown",    QEvent::Show,          rowsPerPage, rowsPerPage},
     {"rows hidden",   QEvent::Hide,          rowsPerPage, rowsPerPage},
@@ -26,10 +27,10 @@ const Cost firstTurn[] = {
     {"polishes",      QEvent::Polish,        0,           rowsPerPage},
     {"layout passes", QEvent::LayoutRequest, 0,           1},
     {"paints",        QEvent::Paint,         rowsPerPage, rowsPerPage + 2},
+    {"asking rows",   QEvent::UpdateLater,   0,           0},
     {"flushes",       QEvent::UpdateRequest, 1,           1},
 };
 
-/// No row asks for its paint: Qt goes through all rows of a list for each one that does.
 const Cost laterTurn[] = {
     {"rows shown",    QEvent::Show,          rowsPerPage, rowsPerPage},
     {"rows hidden",   QEvent::Hide,          rowsPerPage, rowsPerPage},
